@@ -1,0 +1,18 @@
+# One interface target carries language level, warnings and sanitizers for every target of the project.
+
+add_library(project_settings INTERFACE)
+target_compile_features(project_settings INTERFACE cxx_std_20)
+target_compile_options(project_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(TOLVANE_SANITIZE)
+    target_compile_options(project_settings INTERFACE -fsanitize=${TOLVANE_SANITIZE} -fno-omit-frame-pointer
+        -fno-sanitize-recover=all)
+    target_link_options(project_settings INTERFACE -fsanitize=${TOLVANE_SANITIZE})
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()

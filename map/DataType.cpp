@@ -1,0 +1,43 @@
+#include "map/DataType.h"
+
+#include "text/Integers.h"
+
+namespace
+{
+
+constexpr std::array<std::string_view, allDataTypes.size()> names{"INT16", "INT32", "FLOAT", "DOUBLE", "STRING"};
+
+} // namespace
+
+std::string_view typeName(DataType type)
+{
+    const auto code = static_cast<std::size_t>(type);
+    return code < names.size() ? names[code] : "UNKOWN";
+}
+
+DataType typeFromName(std::string_view name)
+{
+    for (const DataType type : allDataTypes)
+    {
+        if (typeName(type) == name)
+            return type;
+    }
+    return DataType::Int16;
+}
+
+std::int32_t registerCountFor(std::string_view name, std::string_view lengthText)
+{
+    switch (typeFromName(name))
+    {
+    case DataType::Int32:
+    case DataType::Float:
+        return 2;
+    case DataType::Double:
+        return 4;
+    case DataType::String:
+        return parseInteger(lengthText);
+    case DataType::Int16:
+        break;
+    }
+    return 1;
+}

@@ -1,0 +1,81 @@
+#include "map/RegisterMap.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+bool isAddress(int address)
+{
+    return address >= 0 && address <= lastAddress;
+}
+
+} // namespace
+
+void clearSlots(RegisterSlots& slots, int first, std::uint32_t count)
+{
+    const auto end = static_cast<int>(std::min<std::int64_t>(std::int64_t{first} + count, registersPerSpace));
+    for (int address = first; address < end; ++address)
+        slots[static_cast<std::size_t>(address)] = freeSlot(address);
+}
+
+RegisterMap::RegisterMap() : spaces(std::make_unique<Spaces>()), snapshot(std::make_unique<Spaces>())
+{
+    initialise();
+    takeSnapshot();
+}
+
+void RegisterMap::initialise()
+{
+    for (const RegisterSpace space : allSpaces)
+        clearSlots(slots(space), 0, registersPerSpace);
+    currentSpace = RegisterSpace::Holding;
+    clipboard.clear();
+    errorCount = 0;
+}
+
+void RegisterMap::clearSlot(RegisterSpace space, int address)
+{
+    if (isAddress(address))
+        clearSlots(slots(space), address, 1);
+}
+
+bool RegisterMap::eraseObject(RegisterSpace space, int address)
+{
+    if (!isAddress(address))
+        return false;
+    const RegisterEntry& judge = currentSlots()[static_cast<std::size_t>(address)];
+    if (judge.locked)
+        return false;
+    if (isHead(judge))
+        clearSlots(slots(space), address, judge.registerCount);
+    else
+        clearSlot(currentSpace, address);
+    return true;
+}
+
+void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntry& entry, int count)
+{
+    if (!isAddress(start))
+        return;
+    RegisterEntry slot = entry;
+    slot.used = true;
+    slot.startAddress = static_cast<std::uint32_t>(start);
+    const int end = static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
+    for (int address = start; address < end; ++address)
+    {
+        slot.address = static_cast<std::uint32_t>(address);
+        slots(space)[static_cast<std::size_t>(address)] = slot;
+    }
+}
+
+void RegisterMap::takeSnapshot()
+{
+    *snapshot = *spaces;
+}
+
+bool RegisterMap::isModified() const
+{
+    return std::memcmp(spaces.get(), snapshot.get(), sizeof(Spaces)) != 0;
+}

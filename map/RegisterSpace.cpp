@@ -1,0 +1,35 @@
+#include "map/RegisterSpace.h"
+
+namespace
+{
+
+struct SpaceNames
+{
+    std::string_view display;
+    std::string_view keyword;
+};
+
+constexpr std::array<SpaceNames, spaceCount> names{
+    {{"Coil", "COIL"}, {"Input", "INPUT"}, {"Status", "STATUS"}, {"Holding", "HOLDING"}}};
+
+} // namespace
+
+std::string_view spaceDisplayName(int index)
+{
+    return index >= 0 && index < spaceCount ? names[static_cast<std::size_t>(index)].display : "Unkown";
+}
+
+std::string_view spaceKeyword(RegisterSpace space)
+{
+    return names[static_cast<std::size_t>(space)].keyword;
+}
+
+std::optional<RegisterSpace> spaceFromKeyword(std::string_view keyword)
+{
+    for (const RegisterSpace space : allSpaces)
+    {
+        if (spaceKeyword(space) == keyword)
+            return space;
+    }
+    return std::nullopt;
+}

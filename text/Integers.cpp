@@ -1,0 +1,79 @@
+#include "text/Integers.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace
+{
+
+bool isBlank(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+std::string_view withoutLeadingBlanks(std::string_view text)
+{
+    const auto* first = std::find_if_not(text.begin(), text.end(), isBlank);
+    text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
+    return text;
+}
+
+/// The value of one hexadecimal digit, -1 for any other character.
+int digitValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
+} // namespace
+
+std::int32_t parseInteger(std::string_view text)
+{
+    text = withoutLeadingBlanks(text);
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.remove_prefix(1);
+
+    constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t limit = negative ? highest + 1 : highest;
+    std::int64_t value = 0;
+    for (const char c : text)
+    {
+        if (c < '0' || c > '9')
+            break;
+        value = std::min(limit, value * 10 + (c - '0'));
+    }
+    return static_cast<std::int32_t>(negative ? -value : value);
+}
+
+std::uint32_t parseHexadecimal(std::string_view text)
+{
+    text = withoutLeadingBlanks(text);
+    if ((text.starts_with("0x") || text.starts_with("0X")) && text.size() > 2 && digitValue(text[2]) >= 0)
+        text.remove_prefix(2);
+
+    std::uint32_t value = 0;
+    for (const char c : text)
+    {
+        const int digit = digitValue(c);
+        if (digit < 0)
+            break;
+        value = value << 4U | static_cast<std::uint32_t>(digit);
+    }
+    return value;
+}
+
+std::string addressText(std::int64_t address)
+{
+    const bool negative = address < 0;
+    std::string digits = std::to_string(negative ? -address : address);
+    const std::size_t width = negative ? 4 : 5;
+    if (digits.size() < width)
+        digits.insert(0, width - digits.size(), '0');
+    return negative ? "-" + digits : digits;
+}

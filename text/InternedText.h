@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string_view>
+
+/// An immutable UTF-8 text, held once per distinct content for the life of the program.
+///
+/// A handle has the size of a pointer and is trivially copyable: equal texts are one object, so comparing handles
+/// compares contents and copying a slot that holds texts is a copy of memory. The empty text is the all-zero handle.
+/// Texts are never released; a session's worth of edits is small beside the files it starts from.
+/// Belongs to the user-interface thread.
+class InternedText
+{
+public:
+    /// The empty text.
+    constexpr InternedText() = default;
+
+    /// The handle of the given content.
+    /// @param utf8  at most 4,294,967,295 bytes; longer contents are cut there
+    explicit InternedText(std::string_view utf8);
+
+    /// The content, valid until the program ends.
+    std::string_view view() const;
+
+    /// True for the text of no characters.
+    bool empty() const { return entry == nullptr; }
+
+    friend bool operator==(InternedText, InternedText) = default;
+
+private:
+    friend struct std::hash<InternedText>;
+
+    const void* entry = nullptr;
+};
+
+/// Hashes the identity of a text, which stands for its content.
+template <>
+struct std::hash<InternedText>
+{
+    std::size_t operator()(InternedText text) const noexcept;
+};
