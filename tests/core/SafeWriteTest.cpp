@@ -1,0 +1,342 @@
+#include "text/SafeWrite.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+bool movesAreRefused = false;
+
+} // namespace
+
+/// Stands in for the system's call, so that a move can be refused as a mount point or a sticky folder refuses it.
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    if (movesAreRefused)
+    {
+        errno = EPERM;
+        return -1;
+    }
+    return renameat(AT_FDCWD, from, AT_FDCWD, to);
+}
+
+namespace
+{
+
+/// Works in a folder of its own and checks at the end that nothing was left behind there.
+class SafeWrite : public testing::Test
+{
+protected:
+    SafeWrite()
+    {
+        std::string name = (fs::temp_directory_path() / "safe-write-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr)
+            throw std::runtime_error("no temporary folder");
+        folder = name;
+        fs::permissions(folder, fs::perms::all);
+    }
+
+    ~SafeWrite() override
+    {
+        movesAreRefused = false;
+        fs::permissions(folder, fs::perms::all);
+        for (const auto& entry : fs::recursive_directory_iterator(folder))
+            EXPECT_FALSE(entry.path().filename().string().starts_with(".saving")) << entry.path();
+        fs::remove_all(folder);
+    }
+
+    fs::path fileHolding(const char* name, std::string_view bytes) const
+    {
+        fs::path path = folder / name;
+        std::ofstream(path, std::ios::binary) << bytes;
+        return path;
+    }
+
+    static std::string contents(const fs::path& path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    static mode_t mode(const fs::path& path)
+    {
+        struct stat state = {};
+        return stat(path.c_str(), &state) == 0 ? state.st_mode & 07777U : 0;
+    }
+
+    fs::path folder;
+};
+
+/// Lets no file grow past a size, as a full disk does.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes) : oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &oldLimit);
+        const rlimit limit{bytes, oldLimit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &oldLimit);
+        std::signal(SIGXFSZ, oldHandler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    void (*oldHandler)(int);
+    rlimit oldLimit{};
+};
+
+class WorkingDirectory
+{
+public:
+    explicit WorkingDirectory(const fs::path& folder) : old(fs::current_path()) { fs::current_path(folder); }
+    ~WorkingDirectory() { fs::current_path(old); }
+    WorkingDirectory(const WorkingDirectory&) = delete;
+    WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+
+private:
+    fs::path old;
+};
+
+/// Writes as somebody whom permissions bind, and ends the process with 0 when that succeeded.
+[[noreturn]] void writeWithoutPrivileges(const fs::path& path, std::string_view bytes)
+{
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0 && setuid(nobody) != 0)
+        _exit(2);
+    _exit(writeFileSafely(path, bytes) ? 0 : 1);
+}
+
+} // namespace
+
+TEST_F(SafeWrite, NewFileGetsTheBytesAsTheyAre)
+{
+    const std::string bytes("a\r\nb\0c\n", 7);
+    EXPECT_TRUE(writeFileSafely(folder / "map.csv", bytes));
+    EXPECT_EQ(contents(folder / "map.csv"), bytes);
+}
+
+TEST_F(SafeWrite, NewFileHasThePermissionsTheUserGivesNewFiles)
+{
+    const mode_t oldMask = umask(027);
+    EXPECT_TRUE(writeFileSafely(folder / "map.csv", "x"));
+    umask(oldMask);
+    EXPECT_EQ(mode(folder / "map.csv"), 0640U);
+}
+
+TEST_F(SafeWrite, OldContentsAreReplacedWhole)
+{
+    const fs::path path = fileHolding("map.csv", "a much longer text than the new one");
+    EXPECT_TRUE(writeFileSafely(path, "short"));
+    EXPECT_EQ(contents(path), "short");
+    EXPECT_TRUE(writeFileSafely(path, ""));
+    EXPECT_EQ(contents(path), "");
+}
+
+TEST_F(SafeWrite, LargeContentsArriveWhole)
+{
+    std::string bytes;
+    for (int line = 0; line < 300000; ++line)
+        bytes += std::to_string(line) + '\n';
+    EXPECT_TRUE(writeFileSafely(folder / "map.csv", bytes));
+    EXPECT_TRUE(contents(folder / "map.csv") == bytes);
+}
+
+TEST_F(SafeWrite, ReaderOfTheOldFileNeverSeesAMixture)
+{
+    const fs::path path = fileHolding("map.csv", "old text");
+    std::ifstream reader(path);
+    EXPECT_TRUE(writeFileSafely(path, "new"));
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), "old text");
+}
+
+TEST_F(SafeWrite, PermissionsOfTheOldFileAreKept)
+{
+    const fs::path path = fileHolding("map.csv", "old");
+    for (const mode_t wanted : {0600U, 0640U, 0666U, 0755U})
+    {
+        ASSERT_EQ(chmod(path.c_str(), wanted), 0);
+        EXPECT_TRUE(writeFileSafely(path, "new"));
+        EXPECT_EQ(mode(path), wanted);
+    }
+}
+
+TEST_F(SafeWrite, SymbolicLinkStaysALinkToTheWrittenFile)
+{
+    fs::create_directory(folder / "elsewhere");
+    const fs::path file = fileHolding("elsewhere/map.csv", "old");
+    fs::create_symlink("elsewhere/map.csv", folder / "link");
+    EXPECT_TRUE(writeFileSafely(folder / "link", "new"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_FALSE(fs::is_symlink(file));
+    EXPECT_EQ(contents(file), "new");
+}
+
+TEST_F(SafeWrite, ChainOfLinksIsFollowedToItsEnd)
+{
+    fs::create_directory(folder / "a");
+    fs::create_directory(folder / "b");
+    const fs::path file = fileHolding("map.csv", "old");
+    fs::create_symlink("../map.csv", folder / "b" / "second");
+    fs::create_symlink(folder / "b" / "second", folder / "a" / "first");
+    EXPECT_TRUE(writeFileSafely(folder / "a" / "first", "new"));
+    EXPECT_EQ(contents(file), "new");
+    EXPECT_EQ(fs::read_symlink(folder / "b" / "second"), "../map.csv");
+    EXPECT_EQ(fs::read_symlink(folder / "a" / "first"), folder / "b" / "second");
+}
+
+TEST_F(SafeWrite, DanglingLinkMakesTheFileItLeadsTo)
+{
+    fs::create_symlink("missing.csv", folder / "second");
+    fs::create_symlink("second", folder / "first");
+    EXPECT_TRUE(writeFileSafely(folder / "first", "new"));
+    EXPECT_TRUE(fs::is_symlink(folder / "first"));
+    EXPECT_TRUE(fs::is_symlink(folder / "second"));
+    EXPECT_EQ(contents(folder / "missing.csv"), "new");
+}
+
+TEST_F(SafeWrite, LinksThatLeadNowhereAreRefused)
+{
+    fs::create_symlink("no-such-folder/map.csv", folder / "astray");
+    EXPECT_FALSE(writeFileSafely(folder / "astray", "new"));
+    fs::create_symlink("round", folder / "round");
+    EXPECT_FALSE(writeFileSafely(folder / "round", "new"));
+    EXPECT_TRUE(fs::is_symlink(folder / "round"));
+}
+
+TEST_F(SafeWrite, NameWithoutFolderIsTakenFromTheWorkingDirectory)
+{
+    const WorkingDirectory inside(folder);
+    EXPECT_TRUE(writeFileSafely("map.csv", "one"));
+    EXPECT_TRUE(writeFileSafely("map.csv", "two"));
+    EXPECT_EQ(contents(folder / "map.csv"), "two");
+}
+
+TEST_F(SafeWrite, LongestPossibleFileNameIsWritten)
+{
+    const fs::path path = folder / std::string(255, 'm');
+    EXPECT_TRUE(writeFileSafely(path, "one"));
+    EXPECT_TRUE(writeFileSafely(path, "two"));
+    EXPECT_EQ(contents(path), "two");
+}
+
+TEST_F(SafeWrite, MissingFolderIsRefused)
+{
+    EXPECT_FALSE(writeFileSafely(folder / "missing" / "map.csv", "new"));
+    EXPECT_FALSE(fs::exists(folder / "missing"));
+}
+
+TEST_F(SafeWrite, EmptyPathIsRefused)
+{
+    const WorkingDirectory inside(folder);
+    EXPECT_FALSE(writeFileSafely("", "new"));
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(SafeWrite, FolderIsRefusedAndStays)
+{
+    fs::create_directory(folder / "map.csv");
+    EXPECT_FALSE(writeFileSafely(folder / "map.csv", "new"));
+    EXPECT_FALSE(writeFileSafely(folder / "map.csv" / "", "new"));
+    EXPECT_TRUE(fs::is_directory(folder / "map.csv"));
+}
+
+TEST_F(SafeWrite, DevicesAndPipesAreRefusedAndStay)
+{
+    EXPECT_FALSE(writeFileSafely("/dev/null", "new"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(writeFileSafely(folder / "pipe", "new"));
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+TEST_F(SafeWrite, RefusedMoveRewritesTheFileInPlace)
+{
+    const fs::path path = fileHolding("map.csv", "old text");
+    fs::create_hard_link(path, folder / "same");
+    movesAreRefused = true;
+    EXPECT_TRUE(writeFileSafely(path, "new"));
+    EXPECT_EQ(contents(folder / "same"), "new");
+    EXPECT_TRUE(writeFileSafely(path, "a longer new text"));
+    EXPECT_EQ(contents(folder / "same"), "a longer new text");
+}
+
+TEST_F(SafeWrite, RefusedMoveOfANewFileLeavesNothing)
+{
+    movesAreRefused = true;
+    EXPECT_FALSE(writeFileSafely(folder / "map.csv", "new"));
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(SafeWrite, FolderWithoutRoomForAFreshNameHasItsFileRewrittenInPlace)
+{
+    constexpr std::size_t longestPath = 4095;
+    const std::string fileName = "/m";
+    std::string deep = folder.string();
+    while (deep.size() + fileName.size() < longestPath)
+        deep += '/' + std::string(std::min<std::size_t>(200, longestPath - fileName.size() - deep.size() - 1), 'd');
+    fs::create_directories(deep);
+    const fs::path path = deep + fileName;
+    ASSERT_EQ(path.string().size(), longestPath);
+    std::ofstream(path) << "old";
+    fs::create_hard_link(path, folder / "same");
+    EXPECT_TRUE(writeFileSafely(path, "new"));
+    EXPECT_EQ(contents(folder / "same"), "new");
+}
+
+TEST_F(SafeWrite, ReadOnlyFolderHasItsFileRewrittenInPlace)
+{
+    const fs::path path = fileHolding("map.csv", "old");
+    fs::permissions(path, fs::perms(0666));
+    fs::permissions(folder, fs::perms(0555));
+    EXPECT_EXIT(writeWithoutPrivileges(path, "new"), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(contents(path), "new");
+}
+
+TEST_F(SafeWrite, WriteProtectedFileIsRefusedThoughItsFolderIsNot)
+{
+    const fs::path path = fileHolding("map.csv", "old");
+    fs::permissions(path, fs::perms(0444));
+    EXPECT_EXIT(writeWithoutPrivileges(path, "new"), testing::ExitedWithCode(1), "");
+    EXPECT_EQ(contents(path), "old");
+}
+
+TEST_F(SafeWrite, FullDiskLeavesTheOldFileUntouched)
+{
+    const fs::path path = fileHolding("map.csv", "old text");
+    {
+        const FileSizeLimit full(1000);
+        EXPECT_FALSE(writeFileSafely(path, std::string(5000, 'x')));
+        EXPECT_FALSE(writeFileSafely(folder / "new.csv", std::string(5000, 'x')));
+    }
+    EXPECT_EQ(contents(path), "old text");
+    EXPECT_FALSE(fs::exists(folder / "new.csv"));
+}
+
+TEST_F(SafeWrite, DiskWithoutRoomForRewritingInPlaceLeavesTheOldFileUntouched)
+{
+    const fs::path path = fileHolding("map.csv", "old text");
+    movesAreRefused = true;
+    const FileSizeLimit full(1000);
+    EXPECT_FALSE(writeFileSafely(path, std::string(5000, 'x')));
+    EXPECT_EQ(contents(path), "old text");
+}
