@@ -1,0 +1,94 @@
+#include "map/Clipboard.h"
+
+#include "map/Insertion.h"
+#include "map/SlotAccess.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+
+std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
+{
+    if (!isAddress(rowAddress))
+        return std::nullopt;
+    const RegisterEntry& slot = slotAt(slots, rowAddress);
+    const std::uint32_t head = static_cast<std::uint32_t>(rowAddress) + slot.startAddress - slot.address;
+    if (!isAddress(head))
+        return std::nullopt;
+    return static_cast<int>(head);
+}
+
+/// True when `wanted` free slots lie from `target` on before the first locked slot.
+bool hasRoom(const RegisterSlots& slots, int target, std::size_t wanted)
+{
+    std::size_t room = 0;
+    for (int address = target; address <= lastAddress && !slotAt(slots, address).locked && room < wanted; ++address)
+    {
+        if (!slotAt(slots, address).used)
+            ++room;
+    }
+    return room >= wanted;
+}
+
+/// @return 65536 when every slot from `address` on is used
+int firstFreeSlotFrom(const RegisterSlots& slots, int address)
+{
+    while (address <= lastAddress && slotAt(slots, address).used)
+        ++address;
+    return address;
+}
+
+} // namespace
+
+void copyRegisters(RegisterMap& map, std::span<const int> addresses)
+{
+    if (addresses.empty())
+        return;
+    constexpr std::size_t usefulLength = registersPerSpace + 1;
+    const auto useful = addresses.first(std::min(addresses.size(), usefulLength));
+    map.clipboard.clear();
+    map.clipboard.reserve(useful.size());
+    for (const int address : useful)
+    {
+        if (isAddress(address))
+            map.clipboard.push_back(slotAt(map.currentSlots(), address));
+    }
+}
+
+void eraseRegisters(RegisterMap& map, std::span<const int> addresses)
+{
+    for (const int address : addresses)
+        map.eraseObject(map.currentSpace, address);
+}
+
+void cutRegisters(RegisterMap& map, std::span<const int> addresses)
+{
+    copyRegisters(map, addresses);
+    eraseRegisters(map, addresses);
+}
+
+PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
+{
+    if (map.clipboard.empty())
+        return PasteResult::NothingToDo;
+    const std::optional<int> target = headOfObjectAt(map.currentSlots(), rowAddress);
+    if (!target)
+        return PasteResult::NothingToDo;
+    if (!hasRoom(map.currentSlots(), *target, map.clipboard.size()))
+        return PasteResult::NoRoom;
+    insertRegisters(map.currentSlots(), map.clipboard, *target);
+    return PasteResult::Pasted;
+}
+
+bool appendRegisters(RegisterMap& map, int rowAddress)
+{
+    if (map.clipboard.empty() || !isAddress(rowAddress))
+        return false;
+    const int target = firstFreeSlotFrom(map.currentSlots(), rowAddress);
+    if (map.clipboard.size() > static_cast<std::size_t>(registersPerSpace - target))
+        return false;
+    insertRegisters(map.currentSlots(), map.clipboard, target);
+    return true;
+}

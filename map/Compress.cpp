@@ -1,0 +1,59 @@
+#include "map/Compress.h"
+
+#include "map/SlotAccess.h"
+
+#include <algorithm>
+
+namespace
+{
+
+/// Moves an object up to `place`, register by register, leaving free slots; it may overlap its old place.
+/// @param head  address of its head, above `place`
+void moveObjectUp(RegisterSlots& slots, int head, int place)
+{
+    const std::int64_t behind = std::int64_t{head} + slotAt(slots, head).registerCount;
+    const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
+    for (int from = head, to = place; from < end; ++from, ++to)
+    {
+        RegisterEntry& moved = slotAt(slots, to);
+        moved = slotAt(slots, from);
+        moved.startAddress = static_cast<std::uint32_t>(place);
+        moved.address = static_cast<std::uint32_t>(to);
+        slotAt(slots, from) = freeSlot(from);
+    }
+}
+
+/// @param place  address of the first free slot, 0..`last`
+void closeGaps(RegisterSlots& slots, int place, int last)
+{
+    for (int address = place; address <= last; ++address)
+    {
+        const RegisterEntry& slot = slotAt(slots, address);
+        if (!slot.used || !isHead(slot) || slot.registerCount == 0)
+            continue;
+        const std::uint32_t length = slot.registerCount;
+        moveObjectUp(slots, address, place);
+        if (length > static_cast<std::uint32_t>(lastAddress - place))
+            return;
+        place += static_cast<int>(length);
+    }
+}
+
+} // namespace
+
+CompressResult compressRegisters(RegisterSlots& slots, std::span<const int> addresses)
+{
+    if (addresses.empty() || !isAddress(addresses.front()) || !isAddress(addresses.back()))
+        return CompressResult::NothingSelected;
+    if (addresses.front() > addresses.back())
+        return CompressResult::Unchanged;
+    const auto first = slots.begin() + addresses.front();
+    const auto end = slots.begin() + addresses.back() + 1;
+    if (std::any_of(first, end, [](const RegisterEntry& slot) { return slot.locked; }))
+        return CompressResult::Locked;
+    const auto gap = std::find_if(first, end, [](const RegisterEntry& slot) { return !slot.used; });
+    if (gap == end)
+        return CompressResult::Unchanged;
+    closeGaps(slots, static_cast<int>(gap - slots.begin()), addresses.back());
+    return CompressResult::Compressed;
+}

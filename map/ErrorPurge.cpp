@@ -1,0 +1,16 @@
+#include "map/ErrorPurge.h"
+
+#include "map/ErrorMarks.h"
+#include "map/SlotAccess.h"
+
+void deleteErrorRegisters(RegisterMap& map)
+{
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (int address = 0; address <= lastAddress; ++address)
+        {
+            if (hasError(slotAt(map.slots(space), address)))
+                map.eraseObject(space, address);
+        }
+    }
+}

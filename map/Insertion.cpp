@@ -1,0 +1,76 @@
+#include "map/Insertion.h"
+
+#include "map/SlotAccess.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+
+/// How far an insertion gets and what it displaces, found without changing anything.
+struct InsertionPlan
+{
+    int writtenEnd;   ///< one behind the last address that gets a new register
+    int displacedEnd; ///< one behind the last slot that is pushed or pushed into; `writtenEnd` when none is
+};
+
+/// The free slot that lets the run at `address` grow by one; nothing when a lock or the end of the space is before it.
+std::optional<int> nextFreeSlot(const RegisterSlots& slots, int address)
+{
+    for (int place = address; place <= lastAddress && !slotAt(slots, place).locked; ++place)
+    {
+        if (!slotAt(slots, place).used)
+            return place;
+    }
+    return std::nullopt;
+}
+
+/// Follows the writing of up to `count` registers: each one either takes a free slot as it finds it, or takes the place
+/// of a used one and so uses up the next free slot behind the displaced run, which always reaches to `displacedEnd`.
+InsertionPlan planInsertion(const RegisterSlots& slots, int target, std::size_t count)
+{
+    InsertionPlan plan{target, target};
+    for (std::size_t i = 0; i < count && plan.writtenEnd <= lastAddress; ++i)
+    {
+        const bool nothingDisplaced = plan.displacedEnd == plan.writtenEnd;
+        if (nothingDisplaced && !slotAt(slots, plan.writtenEnd).used)
+        {
+            ++plan.displacedEnd;
+        }
+        else
+        {
+            const std::optional<int> taken = nextFreeSlot(slots, plan.displacedEnd);
+            if (!taken)
+                break;
+            plan.displacedEnd = *taken + 1;
+        }
+        ++plan.writtenEnd;
+    }
+    return plan;
+}
+
+/// Gathers the used slots in front of `displacedEnd` at its end, in their order, until they reach down to `writtenEnd`.
+void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
+{
+    int from = plan.displacedEnd - 1;
+    for (int place = plan.displacedEnd - 1; place >= plan.writtenEnd; --place, --from)
+    {
+        while (!slotAt(slots, from).used)
+            --from;
+        slotAt(slots, place) = shifted(slotAt(slots, from), static_cast<std::uint32_t>(place - from));
+    }
+}
+
+} // namespace
+
+void insertRegisters(RegisterSlots& slots, std::span<const RegisterEntry> elements, int target)
+{
+    if (!isAddress(target))
+        return;
+    const InsertionPlan plan = planInsertion(slots, target, elements.size());
+    pushDisplaced(slots, plan);
+    auto element = elements.begin();
+    for (int address = target; address < plan.writtenEnd; ++address, ++element)
+        slotAt(slots, address) = shifted(*element, static_cast<std::uint32_t>(address) - element->address);
+}

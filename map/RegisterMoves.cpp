@@ -1,0 +1,97 @@
+#include "map/RegisterMoves.h"
+
+#include "map/SlotAccess.h"
+
+#include <algorithm>
+
+namespace
+{
+
+/// Moves slots of one space in one direction and remembers which ones cannot be shoved.
+///
+/// A slot is stuck when the used slots before it end at a lock or at the end of the space. Nothing that a move does
+/// frees it again: the slots that hold it back are stuck themselves. So no run is looked through twice.
+class SlotMover
+{
+public:
+    SlotMover(RegisterSlots& space, MoveDirection direction, bool mayShove)
+        : slots(space), step(direction == MoveDirection::Down ? 1 : -1), shoving(mayShove), stuck(registersPerSpace)
+    {
+    }
+
+    int stepLength() const { return step; }
+
+    bool move(int address, std::vector<int>& changed)
+    {
+        if (!isAddress(address) || slotAt(slots, address).locked)
+            return false;
+        const int end = endOfRun(address);
+        if (!isAddress(end) || slotAt(slots, end).locked || slotAt(slots, end).used)
+        {
+            if (shoving)
+                markStuck(address, end);
+            return false;
+        }
+        pushRun(address, end, changed);
+        return true;
+    }
+
+private:
+    /// The first address beyond `address` whose slot need not or cannot be pushed along.
+    int endOfRun(int address) const
+    {
+        int end = address + step;
+        while (shoving && isAddress(end) && mayBePushed(end))
+            end += step;
+        return end;
+    }
+
+    bool mayBePushed(int address) const
+    {
+        const RegisterEntry& slot = slotAt(slots, address);
+        return slot.used && !slot.locked && !stuck[static_cast<std::size_t>(address)];
+    }
+
+    void markStuck(int first, int end)
+    {
+        for (int address = first; address != end; address += step)
+            stuck[static_cast<std::size_t>(address)] = true;
+    }
+
+    void pushRun(int first, int freePlace, std::vector<int>& changed)
+    {
+        for (int place = freePlace; place != first; place -= step)
+        {
+            slotAt(slots, place) = shifted(slotAt(slots, place - step), static_cast<std::uint32_t>(step));
+            changed.push_back(place);
+        }
+        slotAt(slots, first).used = false;
+    }
+
+    RegisterSlots& slots;
+    int step;
+    bool shoving;
+    std::vector<bool> stuck;
+};
+
+} // namespace
+
+bool moveSlot(RegisterSlots& slots, int address, MoveDirection direction, bool shoving, std::vector<int>& changed)
+{
+    return SlotMover(slots, direction, shoving).move(address, changed);
+}
+
+MoveResult moveSlots(RegisterSlots& slots, std::span<const int> addresses, MoveDirection direction, bool shoving)
+{
+    SlotMover mover(slots, direction, shoving);
+    MoveResult result;
+    result.positions.reserve(addresses.size());
+    const auto moveOne = [&](int address)
+    { result.positions.push_back(mover.move(address, result.changed) ? address + mover.stepLength() : address); };
+
+    if (direction == MoveDirection::Up)
+        std::for_each(addresses.begin(), addresses.end(), moveOne);
+    else
+        std::for_each(addresses.rbegin(), addresses.rend(), moveOne);
+    return result;
+}

@@ -1,0 +1,72 @@
+#include "map/TagPlacing.h"
+
+namespace
+{
+
+void shapeAsInteger(RegisterEntry& entry, const DefaultByteOrder& byteOrder)
+{
+    entry.type = DataType::Int16;
+    entry.registerCount = 1;
+    entry.SwapBytes = byteOrder.intSwapBytes;
+    entry.SwapWords = byteOrder.intSwapWords;
+    entry.SwapLongs = byteOrder.intSwapLongs;
+}
+
+void shapeAsFloat(RegisterEntry& entry, const DefaultByteOrder& byteOrder)
+{
+    entry.type = DataType::Float;
+    entry.registerCount = 2;
+    entry.SwapBytes = byteOrder.floatSwapBytes;
+    entry.SwapWords = byteOrder.floatSwapWords;
+    entry.SwapLongs = byteOrder.floatSwapLongs;
+}
+
+void shapeAsString(RegisterEntry& entry, std::uint8_t characters)
+{
+    entry.type = DataType::String;
+    entry.registerCount = registersForString(characters);
+    entry.SwapBytes = false;
+    entry.SwapWords = false;
+    entry.SwapLongs = false;
+}
+
+/// Sets type, register count and byte order as the tag's type asks; an unknown type code leaves them.
+void shapeFor(RegisterEntry& entry, const TagRecord& tag, const DefaultByteOrder& byteOrder)
+{
+    switch (tag.type)
+    {
+    case TagType::Integer:
+        shapeAsInteger(entry, byteOrder);
+        break;
+    case TagType::Numeric:
+        shapeAsFloat(entry, byteOrder);
+        break;
+    case TagType::String:
+        shapeAsString(entry, tag.size);
+        break;
+    }
+}
+
+} // namespace
+
+std::vector<RegisterEntry> copySourceTags(const TagTable& tags, std::span<const int> tagIndices,
+                                          const DefaultByteOrder& byteOrder)
+{
+    std::vector<RegisterEntry> registers;
+    RegisterEntry entry;
+    entry.used = true;
+    shapeAsInteger(entry, byteOrder);
+    for (const int index : tagIndices)
+    {
+        if (index < 0 || index >= tags.count())
+            continue;
+        const TagRecord& tag = tags[index];
+        shapeFor(entry, tag, byteOrder);
+        entry.tagIndex = index;
+        entry.tagname = tag.name;
+        entry.description = tag.description;
+        for (entry.address = 0; entry.address < entry.registerCount; ++entry.address)
+            registers.push_back(entry);
+    }
+    return registers;
+}
