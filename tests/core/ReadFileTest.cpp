@@ -1,0 +1,88 @@
+#include "text/ReadFile.h"
+
+#include "tests/core/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+using namespace std::string_literals;
+
+TEST(ReadFile, GivesTheBytesAsTheyAre)
+{
+    const TempFolder folder;
+    const std::string bytes = "a\r\nb\0\xFF\x1A end"s;
+    EXPECT_EQ(readFile(folder.write("file", bytes)), bytes);
+}
+
+TEST(ReadFile, EmptyFileGivesTheEmptyText)
+{
+    const TempFolder folder;
+    EXPECT_EQ(readFile(folder.write("empty", "")), "");
+}
+
+TEST(ReadFile, LargeFileIsWhole)
+{
+    const TempFolder folder;
+    std::string bytes;
+    for (int i = 0; i < 300000; ++i)
+        bytes += std::to_string(i);
+    EXPECT_EQ(readFile(folder.write("large", bytes)), bytes);
+}
+
+TEST(ReadFile, NameMayHoldAnyCharacter)
+{
+    const TempFolder folder;
+    EXPECT_EQ(readFile(folder.write(std::u8string(u8"größe 大 .json"), "x")), "x");
+}
+
+TEST(ReadFile, MissingFileAndFolderGiveNothing)
+{
+    const TempFolder folder;
+    EXPECT_EQ(readFile(folder / "missing"), std::nullopt);
+    EXPECT_EQ(readFile(folder.path()), std::nullopt);
+    EXPECT_EQ(readFile(""), std::nullopt);
+}
+
+TEST(ReadFile, PathThroughARegularFileGivesNothing)
+{
+    const TempFolder folder;
+    EXPECT_EQ(readFile(folder.write("file", "x") / "below"), std::nullopt);
+}
+
+#ifndef _WIN32
+
+TEST(ReadFile, SymbolicLinksAreFollowed)
+{
+    const TempFolder folder;
+    folder.write("file", "content");
+    std::filesystem::create_symlink("file", folder / "link");
+    std::filesystem::create_symlink("missing", folder / "dangling");
+    std::filesystem::create_symlink("loop", folder / "loop");
+    EXPECT_EQ(readFile(folder / "link"), "content");
+    EXPECT_EQ(readFile(folder / "dangling"), std::nullopt);
+    EXPECT_EQ(readFile(folder / "loop"), std::nullopt);
+}
+
+TEST(ReadFile, PipesAndDevicesAreNotWaitedFor)
+{
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(readFile(folder / "pipe"), std::nullopt);
+    EXPECT_EQ(readFile("/dev/zero"), std::nullopt);
+}
+
+/// The system reports a size of 0 for the files in which it describes itself, as for a file that grows meanwhile.
+TEST(ReadFile, FileThatHoldsMoreThanItsSizeSaysIsReadToItsEnd)
+{
+    const auto bytes = readFile("/proc/self/stat");
+    ASSERT_TRUE(bytes.has_value());
+    EXPECT_TRUE(bytes->ends_with('\n'));
+}
+
+#endif

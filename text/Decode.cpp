@@ -1,0 +1,185 @@
+#include "text/Decode.h"
+
+#include "text/Utf8.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+namespace
+{
+
+enum class Encoding
+{
+    Utf8,
+    Utf16Little,
+    Utf16Big,
+    Utf32Little,
+    Utf32Big
+};
+
+struct Mark
+{
+    std::string_view bytes;
+    Encoding encoding;
+};
+
+using namespace std::string_view_literals;
+
+/// Longer marks first: that of UTF-16 begins like that of UTF-32.
+constexpr std::array<Mark, 5> marks{{{"\xFF\xFE\0\0"sv, Encoding::Utf32Little},
+                                     {"\0\0\xFE\xFF"sv, Encoding::Utf32Big},
+                                     {"\xEF\xBB\xBF"sv, Encoding::Utf8},
+                                     {"\xFF\xFE"sv, Encoding::Utf16Little},
+                                     {"\xFE\xFF"sv, Encoding::Utf16Big}}};
+
+const Mark* markOf(std::string_view bytes)
+{
+    for (const Mark& mark : marks)
+    {
+        if (bytes.starts_with(mark.bytes))
+            return &mark;
+    }
+    return nullptr;
+}
+
+/// Reads units of fixed width, each stored lowest or highest byte first.
+class UnitReader
+{
+public:
+    UnitReader(std::string_view units, std::size_t unitWidth, bool lowestByteFirst)
+        : bytes(units), width(unitWidth), lowestFirst(lowestByteFirst)
+    {
+    }
+
+    /// True while a whole unit is left.
+    bool hasUnit() const { return bytes.size() - position >= width; }
+
+    /// True when the bytes left over are too few for a unit.
+    bool hasPartOfUnit() const { return position < bytes.size() && !hasUnit(); }
+
+    /// The next unit, which stays the next one.
+    std::uint32_t peek() const
+    {
+        std::uint32_t unit = 0;
+        for (std::size_t i = 0; i < width; ++i)
+        {
+            const std::size_t index = position + (lowestFirst ? width - 1 - i : i);
+            unit = unit << 8U | static_cast<unsigned char>(bytes[index]);
+        }
+        return unit;
+    }
+
+    /// The next unit.
+    std::uint32_t take()
+    {
+        const std::uint32_t unit = peek();
+        position += width;
+        return unit;
+    }
+
+private:
+    std::string_view bytes;
+    std::size_t width;
+    bool lowestFirst;
+    std::size_t position = 0;
+};
+
+constexpr bool isHighSurrogate(std::uint32_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+constexpr bool isLowSurrogate(std::uint32_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+std::string decodeUtf8(std::string bytes)
+{
+    if (isValidUtf8(bytes))
+        return bytes;
+    std::string text;
+    text.reserve(bytes.size());
+    for (std::size_t position = 0; position < bytes.size();)
+    {
+        const Utf8Character character = characterAt(bytes, position);
+        appendCharacter(text, character.codePoint);
+        position += character.length;
+    }
+    return text;
+}
+
+std::string decodeUtf16(std::string_view bytes, bool lowestByteFirst)
+{
+    UnitReader units(bytes, 2, lowestByteFirst);
+    std::string text;
+    text.reserve(bytes.size() / 2);
+    while (units.hasUnit())
+    {
+        std::uint32_t codePoint = units.take();
+        if (isHighSurrogate(codePoint) && units.hasUnit() && isLowSurrogate(units.peek()))
+            codePoint = 0x10000U + ((codePoint - 0xD800U) << 10U) + (units.take() - 0xDC00U);
+        appendCharacter(text, codePoint);
+    }
+    if (units.hasPartOfUnit())
+        appendCharacter(text, replacementCharacter);
+    return text;
+}
+
+std::string decodeUtf32(std::string_view bytes, bool lowestByteFirst)
+{
+    UnitReader units(bytes, 4, lowestByteFirst);
+    std::string text;
+    text.reserve(bytes.size() / 4);
+    while (units.hasUnit())
+        appendCharacter(text, units.take());
+    if (units.hasPartOfUnit())
+        appendCharacter(text, replacementCharacter);
+    return text;
+}
+
+std::string decodeLatin1(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (std::size_t position = 0; position < bytes.size();)
+    {
+        const std::size_t run = asciiRunLength(bytes, position);
+        text.append(bytes.substr(position, run));
+        position += run;
+        for (; position < bytes.size() && static_cast<unsigned char>(bytes[position]) >= 0x80; ++position)
+            appendCharacter(text, static_cast<unsigned char>(bytes[position]));
+    }
+    return text;
+}
+
+} // namespace
+
+std::string decodeText(std::string bytes)
+{
+    const Mark* const mark = markOf(bytes);
+    if (mark == nullptr)
+    {
+        if (!isValidUtf8(bytes))
+            return decodeLatin1(bytes);
+        return bytes;
+    }
+
+    bytes.erase(0, mark->bytes.size());
+    switch (mark->encoding)
+    {
+    case Encoding::Utf8:
+        return decodeUtf8(std::move(bytes));
+    case Encoding::Utf16Little:
+        return decodeUtf16(bytes, true);
+    case Encoding::Utf16Big:
+        return decodeUtf16(bytes, false);
+    case Encoding::Utf32Little:
+        return decodeUtf32(bytes, true);
+    case Encoding::Utf32Big:
+        return decodeUtf32(bytes, false);
+    }
+    return bytes;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+/// Reads a whole file as bytes.
+///
+/// Only existing regular files are read, symbolic links followed; opening a pipe or a device could wait for ever.
+/// @return the bytes up to where the file ends while it is read, or nothing when it is missing, no regular file,
+///         unreadable or larger than the memory
+std::optional<std::string> readFile(const std::filesystem::path& path);
