@@ -1,0 +1,178 @@
+#include "map/MapExport.h"
+
+#include "map/PublishedName.h"
+#include "text/Integers.h"
+#include "text/Lines.h"
+#include "text/SafeWrite.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace
+{
+
+void appendLine(std::string& text, std::string_view line)
+{
+    text += line;
+    text += nativeLineEnd;
+}
+
+bool isExported(const RegisterEntry& slot)
+{
+    return slot.used && isHead(slot);
+}
+
+/// Makes room for every row at once, so that a full map is never copied while its text grows.
+void reserveRows(std::string& text, const RegisterMap& map)
+{
+    constexpr std::size_t headings = 1024;
+    constexpr std::size_t columns = 64; // all columns of a row, padding included, without the texts themselves
+    std::size_t bytes = headings;
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (const RegisterEntry& slot : map.slots(space))
+        {
+            if (isExported(slot))
+                bytes += columns + slot.tagname.view().size() + slot.description.view().size();
+        }
+    }
+    text.reserve(bytes);
+}
+
+std::string countText(const RegisterEntry& slot)
+{
+    return std::to_string(static_cast<std::int32_t>(slot.registerCount));
+}
+
+void appendByteOrder(std::string& text, const RegisterEntry& slot)
+{
+    const auto flags = byteOrderCharacters(slot);
+    text.append(flags.data(), flags.size());
+}
+
+void appendCsvRow(std::string& text, RegisterSpace space, const RegisterEntry& slot)
+{
+    text += spaceKeyword(space);
+    text += ',';
+    text += addressText(slot.address);
+    text += ',';
+    text += typeName(slot.type);
+    text += ',';
+    text += countText(slot);
+    text += ',';
+    appendByteOrder(text, slot);
+    text += ',';
+    appendPublishedTagname(text, slot);
+    text += ',';
+    appendLine(text, slot.description.view());
+}
+
+/// Characters of a UTF-8 text: every byte but those that continue a character.
+std::size_t characterCount(std::string_view utf8)
+{
+    const auto startsCharacter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
+    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), startsCharacter));
+}
+
+/// Pads what stands behind `start` with blanks to a width in characters.
+void padColumn(std::string& text, std::size_t start, std::size_t width)
+{
+    const std::size_t characters = characterCount(std::string_view(text).substr(start));
+    if (characters < width)
+        text.append(width - characters, ' ');
+}
+
+void appendColumn(std::string& text, std::string_view content, std::size_t width)
+{
+    const std::size_t start = text.size();
+    text += content;
+    padColumn(text, start, width);
+}
+
+void appendReportRow(std::string& text, const RegisterEntry& slot)
+{
+    constexpr std::size_t typeColumn = 6;
+    constexpr std::size_t countColumn = 3;
+    constexpr std::size_t tagnameColumn = 20;
+    text += addressText(slot.address);
+    text += "    ";
+    appendColumn(text, typeName(slot.type), typeColumn);
+    text += "  ";
+    appendColumn(text, countText(slot), countColumn);
+    text += "        ";
+    appendByteOrder(text, slot);
+    text += "    ";
+    const std::size_t tagnameStart = text.size();
+    appendPublishedTagname(text, slot);
+    padColumn(text, tagnameStart, tagnameColumn);
+    text += "  ";
+    appendLine(text, slot.description.view());
+}
+
+void appendSectionHeading(std::string& text, RegisterSpace space)
+{
+    appendLine(text, "");
+    text += spaceKeyword(space);
+    appendLine(text, " REGISTERS");
+    appendLine(text, "ADDRESS  TYPE    REG_COUNT  ORDER  TAGNAME               DESCRIPTION");
+    appendLine(text, "~~~~~~~  ~~~~    ~~~~~~~~~  ~~~~~  ~~~~~~~~~~~~~~~~~~~~  ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~");
+}
+
+} // namespace
+
+ExportFormat exportFormatFor(std::string_view path)
+{
+    constexpr std::string_view ending = ".csv";
+    const auto equalsLowered = [](char c, char lower)
+    { return (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) == lower; };
+    if (path.size() < ending.size())
+        return ExportFormat::Text;
+    path.remove_prefix(path.size() - ending.size());
+    return std::equal(path.begin(), path.end(), ending.begin(), equalsLowered) ? ExportFormat::Csv : ExportFormat::Text;
+}
+
+std::string exportCsv(const RegisterMap& map)
+{
+    std::string text;
+    reserveRows(text, map);
+    appendLine(text, "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION");
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (const RegisterEntry& slot : map.slots(space))
+        {
+            if (isExported(slot))
+                appendCsvRow(text, space, slot);
+        }
+    }
+    return text;
+}
+
+std::string exportTextReport(const RegisterMap& map)
+{
+    std::string text;
+    reserveRows(text, map);
+    appendLine(text, "Modbus Register Map");
+    appendLine(text, "-------------------");
+    for (const RegisterSpace space : allSpaces)
+    {
+        appendSectionHeading(text, space);
+        for (const RegisterEntry& slot : map.slots(space))
+        {
+            if (isExported(slot))
+                appendReportRow(text, slot);
+        }
+    }
+    return text;
+}
+
+bool exportMap(const RegisterMap& map, const std::filesystem::path& path)
+try
+{
+    const std::u8string name = path.u8string();
+    const std::string_view utf8(reinterpret_cast<const char*>(name.data()), name.size());
+    return writeFileSafely(path, exportFormatFor(utf8) == ExportFormat::Csv ? exportCsv(map) : exportTextReport(map));
+}
+catch (const std::exception&)
+{
+    return false;
+}
