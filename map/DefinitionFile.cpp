@@ -1,0 +1,185 @@
+#include "map/DefinitionFile.h"
+
+#include "map/PublishedName.h"
+#include "text/Decode.h"
+#include "text/Integers.h"
+#include "text/Lines.h"
+#include "text/ReadFile.h"
+#include "text/SafeWrite.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace
+{
+
+constexpr std::size_t fullForm = 9;
+constexpr std::size_t formWithoutLock = 7;
+constexpr std::size_t formWithoutCount = 6;
+
+/// The fields of one line. One more than the full form is kept, enough to tell that a line has too many.
+struct SplitLine
+{
+    std::array<std::string_view, fullForm + 1> fields;
+    std::size_t count = 0;
+};
+
+/// Splits at every comma; an empty field behind a final comma is not counted.
+SplitLine splitLine(std::string_view line)
+{
+    SplitLine split;
+    while (!line.empty() && split.count < split.fields.size())
+    {
+        const std::size_t comma = line.find(',');
+        split.fields[split.count++] = line.substr(0, comma);
+        line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
+    }
+    return split;
+}
+
+/// Registers of a STRING whose line does not say: the size of the database tag of that name, else one register.
+std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
+{
+    const std::optional<int> index = tags.find(InternedText(tagnameField.substr(0, tagnameField.find('.'))));
+    if (!index || *index >= tags.count())
+        return 1;
+    return registersForString(tags[*index].size);
+}
+
+void readLine(std::string_view line, RegisterMap& map, const TagTable& tags)
+{
+    const SplitLine split = splitLine(line);
+    const auto& f = split.fields;
+    DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], "UNLOCKED", "OK"};
+    std::string computedCount;
+    if (split.count == fullForm)
+    {
+        fields.lock = f[7];
+        fields.status = f[8];
+    }
+    else if (split.count == formWithoutCount)
+    {
+        if (typeFromName(fields.type) == DataType::String)
+            computedCount = std::to_string(stringRegistersFromDatabase(fields.tagname, tags));
+        fields.count = computedCount;
+    }
+    else if (split.count != formWithoutLock)
+    {
+        return;
+    }
+    parseDefinitionLine(map, fields);
+}
+
+bool contains(std::string_view text, std::string_view part)
+{
+    return text.find(part) != std::string_view::npos;
+}
+
+void appendOrder(std::string& text, const RegisterEntry& head)
+{
+    const std::size_t begin = text.size();
+    const auto append = [&](bool set, std::string_view name)
+    {
+        if (!set)
+            return;
+        if (text.size() > begin)
+            text += '+';
+        text += name;
+    };
+    append(head.SwapBytes, "BYTES");
+    append(head.SwapWords, "WORDS");
+    append(head.SwapLongs, "LONGS");
+    if (text.size() == begin)
+        text += "NONE";
+}
+
+void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& head)
+{
+    const bool valid = head.typeValid && head.writeValid && head.tagIndex != -1;
+    text += spaceKeyword(space);
+    text += ',';
+    text += addressText(head.address);
+    text += ',';
+    appendOrder(text, head);
+    text += ',';
+    text += typeName(head.type);
+    text += ',';
+    appendPublishedTagname(text, head);
+    text += ',';
+    text += head.description.view();
+    text += ',';
+    text += std::to_string(static_cast<std::int32_t>(head.registerCount));
+    text += head.locked ? ",LOCKED," : ",UNLOCKED,";
+    text += valid ? "OK" : "ERROR";
+    text += nativeLineEnd;
+}
+
+} // namespace
+
+void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields)
+{
+    const bool write = fields.tagname.ends_with(writeSuffix);
+    if (contains(fields.tagname, ".") && !write)
+        return;
+    const std::int32_t count = registerCountFor(fields.type, fields.count);
+    const std::optional<RegisterSpace> space = spaceFromKeyword(fields.space);
+    if (!space || count < 1)
+        return;
+
+    const DataType type = typeFromName(fields.type);
+    const InternedText tagname(fields.tagname.substr(0, fields.tagname.size() - (write ? writeSuffix.size() : 0)));
+    const InternedText description(fields.description.substr(0, fields.description.find('{')));
+    const bool swapBytes = contains(fields.order, "BYTES");
+    const bool swapWords = contains(fields.order, "WORDS");
+    const bool swapLongs = contains(fields.order, "LONGS");
+    const bool locked = fields.lock.starts_with("LOCKED");
+
+    const std::int64_t start = parseInteger(fields.address);
+    const std::int64_t end = std::min<std::int64_t>(start + count, registersPerSpace);
+    for (std::int64_t address = std::max<std::int64_t>(start, 0); address < end; ++address)
+    {
+        RegisterEntry& slot = map.slots(*space)[static_cast<std::size_t>(address)];
+        slot.used = true;
+        slot.startAddress = static_cast<std::uint32_t>(start);
+        slot.address = static_cast<std::uint32_t>(address);
+        slot.type = type;
+        slot.registerCount = static_cast<std::uint32_t>(count);
+        slot.write = write;
+        slot.tagname = tagname;
+        slot.description = description;
+        slot.SwapBytes |= swapBytes;
+        slot.SwapWords |= swapWords;
+        slot.SwapLongs |= swapLongs;
+        slot.locked = locked;
+    }
+}
+
+bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags)
+{
+    std::optional<std::string> bytes = readFile(path);
+    if (!bytes)
+        return false;
+    const std::string text = decodeText(std::move(*bytes));
+    forEachLine(text, [&](std::string_view line) { readLine(line, map, tags); });
+    return true;
+}
+
+std::string definitionText(const RegisterMap& map)
+{
+    std::string text;
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (const RegisterEntry& slot : map.slots(space))
+        {
+            if (slot.used && isHead(slot))
+                appendLine(text, space, slot);
+        }
+    }
+    return text;
+}
+
+bool saveDefinitionFile(const std::filesystem::path& path, const RegisterMap& map)
+{
+    return writeFileSafely(path, definitionText(map));
+}

@@ -1,0 +1,87 @@
+#include "map/Validation.h"
+
+#include "map/ErrorMarks.h"
+
+#include <cstdint>
+
+namespace
+{
+
+/// Looks tag names up once per run of equal names: the registers of an object follow each other.
+class TagLookup
+{
+public:
+    explicit TagLookup(const TagTable& table) : tags(table) {}
+
+    /// Index of the tag of that name, -1 when there is none.
+    std::int32_t indexOf(InternedText name)
+    {
+        if (!asked || name != lastName)
+        {
+            asked = true;
+            lastName = name;
+            lastIndex = tags.find(name).value_or(-1);
+        }
+        return lastIndex;
+    }
+
+private:
+    const TagTable& tags;
+    bool asked = false;
+    InternedText lastName;
+    std::int32_t lastIndex = -1;
+};
+
+bool typeSuits(const RegisterEntry& slot, const TagRecord& tag)
+{
+    switch (tag.type)
+    {
+    case TagType::String:
+        return slot.type == DataType::String && std::uint64_t{slot.registerCount} * 2 >= tag.size;
+    case TagType::Integer:
+    case TagType::Numeric:
+        return slot.type < DataType::String;
+    }
+    return true;
+}
+
+/// A master's write needs a second element of the tag to land in.
+constexpr std::int32_t elementsToWrite = 2;
+
+void validateSlot(RegisterEntry& slot, const TagTable& tags, TagLookup& lookup)
+{
+    slot.tagIndex = lookup.indexOf(slot.tagname);
+    slot.typeValid = true;
+    slot.writeValid = true;
+    if (slot.tagIndex == -1)
+        return;
+    const TagRecord& tag = tags[slot.tagIndex];
+    slot.typeValid = typeSuits(slot, tag);
+    slot.writeValid = !slot.write || tag.elements >= elementsToWrite;
+}
+
+} // namespace
+
+void validateMap(RegisterMap& map, const TagTable& tags)
+{
+    TagLookup lookup(tags);
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (RegisterEntry& slot : map.slots(space))
+        {
+            if (slot.used)
+                validateSlot(slot, tags, lookup);
+        }
+    }
+}
+
+int countErrors(const RegisterMap& map)
+{
+    int count = 0;
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (const RegisterEntry& slot : map.slots(space))
+            count += errorMarks(slot);
+    }
+    return count;
+}
