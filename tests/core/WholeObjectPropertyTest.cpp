@@ -1,0 +1,290 @@
+#include "map/Clipboard.h"
+#include "map/Compress.h"
+#include "map/ErrorPurge.h"
+#include "map/Locks.h"
+#include "map/RegisterMoves.h"
+#include "map/Selection.h"
+#include "map/TagnameReplace.h"
+#include "tests/core/Chance.h"
+#include "tests/core/MapBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+enum class Command
+{
+    Copy,
+    Cut,
+    Delete,
+    Paste,
+    Append,
+    Move,
+    Shove,
+    Compress,
+    Toggle,
+    Purge,
+    Replace
+};
+
+/// The last slots of a space, or the first ones, with whole objects in them, edited as a user edits the compressed
+/// view.
+class TidyMap
+{
+public:
+    void begin(std::uint32_t seed)
+    {
+        chance = Chance(seed);
+        clearSlots(map.currentSlots(), first, static_cast<std::uint32_t>(last - first + 1));
+        map.clipboard.clear();
+        first = chance.oneOf({0, 40'000, registersPerSpace - length});
+        last = first + length - 1;
+        fill();
+        remember();
+    }
+
+    Command step()
+    {
+        remember();
+        const auto command = static_cast<Command>(chance.pick(0, 10));
+        perform(command);
+        return command;
+    }
+
+    int tornObject() const { return tornObjectIn(map.currentSlots(), first, last); }
+
+    /// The first slot that was locked before the last step and is not the same any more; -1 when there is none.
+    /// @param usedOnly  leave free slots out
+    int changedLockedSlot(bool usedOnly) const
+    {
+        for (int address = first; address <= last; ++address)
+        {
+            const RegisterEntry& old = before[static_cast<std::size_t>(address - first)];
+            if (old.locked && (old.used || !usedOnly) && slotAt(map.currentSlots(), address) != old)
+                return address;
+        }
+        return -1;
+    }
+
+    /// True when the same registers are there as before the last step, wherever they stand now.
+    bool holdsTheSameRegisters() const { return registersIn(window()) == registersIn(before); }
+
+private:
+    /// Slots under observation: long enough for what a sequence of commands adds, and with a margin on either side that
+    /// nothing crosses, since a command moves what is there by no more than one place up or the clipboard's length
+    /// down.
+    static constexpr int length = 1600;
+    static constexpr int margin = 200;
+
+    std::vector<RegisterEntry> window() const
+    {
+        const auto begin = map.currentSlots().begin() + first;
+        return {begin, begin + length};
+    }
+
+    void remember() { before = window(); }
+
+    void fill()
+    {
+        int address = first == 0 ? 0 : first + margin;
+        if (last == lastAddress)
+            address = lastAddress - chance.pick(150, 300);
+        const int end = address + 140;
+        while (address < end)
+        {
+            RegisterEntry entry = registerOf(chance.oneOf({"AA", "B", "CAC"}), chance.oneOf({1, 1, 2, 2, 4, 3, 7}));
+            entry.description = InternedText("object " + std::to_string(address));
+            entry.locked = chance.happens(8);
+            entry.typeValid = !chance.happens(10);
+            if (chance.happens(75))
+            {
+                place(map.currentSlots(), address, entry);
+                address += static_cast<int>(entry.registerCount);
+            }
+            else
+            {
+                slotAt(map.currentSlots(), address++).locked = chance.happens(10);
+            }
+        }
+    }
+
+    static std::vector<RegisterEntry> registersIn(const std::vector<RegisterEntry>& slots)
+    {
+        std::vector<RegisterEntry> registers;
+        for (const RegisterEntry& slot : slots)
+        {
+            if (slot.used)
+                registers.push_back(shifted(slot, 0U - slot.startAddress));
+        }
+        std::sort(registers.begin(), registers.end(),
+                  [](const RegisterEntry& one, const RegisterEntry& other)
+                  { return std::memcmp(&one, &other, sizeof one) < 0; });
+        return registers;
+    }
+
+    /// Heads of used objects, and free slots that no move has vacated.
+    std::vector<int> tidyRows() const
+    {
+        std::vector<int> rows;
+        const int begin = first == 0 ? 0 : first + margin / 2;
+        const int end = last == lastAddress ? last : last - margin * 2;
+        for (int address = begin; address <= end; ++address)
+        {
+            const RegisterEntry& slot = slotAt(map.currentSlots(), address);
+            if (slot.used ? isHead(slot) : slot.tagname.empty() && slot.registerCount == 1 && isHead(slot))
+                rows.push_back(address);
+        }
+        return rows;
+    }
+
+    std::vector<int> randomSelection()
+    {
+        const std::vector<int> rows = tidyRows();
+        const int begin = randomPlaceIn(rows);
+        const int count = chance.oneOf({1, 1, 3, 10});
+        std::vector<int> selected;
+        for (int i = begin; i < begin + count && i < static_cast<int>(rows.size()); ++i)
+        {
+            if (chance.happens(80))
+                selected.push_back(rows[static_cast<std::size_t>(i)]);
+        }
+        return collectSelection(map.currentSlots(), selected);
+    }
+
+    /// An index into the rows, in most cases one where there are objects.
+    int randomPlaceIn(const std::vector<int>& rows)
+    {
+        const int any = chance.pick(0, static_cast<int>(rows.size()) - 1);
+        int index = any;
+        while (index > 0 && !slotAt(map.currentSlots(), rows[static_cast<std::size_t>(index)]).used)
+            --index;
+        return chance.happens(80) ? std::max(index - chance.pick(0, 30), 0) : any;
+    }
+
+    int randomRow()
+    {
+        const std::vector<int> rows = tidyRows();
+        return rows[static_cast<std::size_t>(randomPlaceIn(rows))];
+    }
+
+    /// Appends only where all of the clipboard goes in before the next lock: otherwise it would be cut short.
+    void appendWithRoom(int row)
+    {
+        const RegisterSlots& slots = map.currentSlots();
+        while (row <= last && slotAt(slots, row).used)
+            ++row;
+        std::size_t room = 1;
+        for (int address = row + 1; address <= last && !slotAt(slots, address).locked; ++address)
+            room += slotAt(slots, address).used ? 0 : 1;
+        if (map.clipboard.size() <= room)
+            appendRegisters(map, row);
+    }
+
+    void perform(Command command)
+    {
+        RegisterSlots& slots = map.currentSlots();
+        const MoveDirection direction = chance.oneOf({MoveDirection::Up, MoveDirection::Down});
+        switch (command)
+        {
+        case Command::Copy:
+            copyRegisters(map, randomSelection());
+            break;
+        case Command::Cut:
+            cutRegisters(map, randomSelection());
+            break;
+        case Command::Delete:
+            eraseRegisters(map, randomSelection());
+            break;
+        case Command::Paste:
+            pasteRegisters(map, randomRow());
+            break;
+        case Command::Append:
+            appendWithRoom(randomRow());
+            break;
+        case Command::Move:
+        case Command::Shove:
+            moveSlots(slots, randomSelection(), direction, command == Command::Shove);
+            break;
+        case Command::Compress:
+            compressRegisters(slots, randomSelection());
+            break;
+        case Command::Toggle:
+            toggleLocks(slots, randomSelection());
+            break;
+        case Command::Purge:
+            if (chance.happens(10))
+                deleteErrorRegisters(map);
+            break;
+        case Command::Replace:
+            replaceInTagnames(slots, randomSelection(), "A", chance.oneOf({"AB", "C"}));
+            break;
+        }
+    }
+
+    RegisterMap map;
+    Chance chance{0};
+    int first = 0;
+    int last = length - 1;
+    std::vector<RegisterEntry> before;
+};
+
+bool rearranges(Command command)
+{
+    return command == Command::Move || command == Command::Shove || command == Command::Compress;
+}
+
+constexpr std::uint32_t sequences = 1200;
+constexpr int stepsPerSequence = 40;
+
+/// Runs every sequence; after each step `check` is asked with what was done.
+template <typename Check>
+void rehearse(Check check)
+{
+    TidyMap map;
+    for (std::uint32_t seed = 1; seed <= sequences; ++seed)
+    {
+        map.begin(seed);
+        for (int step = 0; step < stepsPerSequence; ++step)
+        {
+            const Command command = map.step();
+            check(map, command);
+            ASSERT_FALSE(testing::Test::HasFailure())
+                << "seed " << seed << ", step " << step << ", command " << static_cast<int>(command);
+        }
+    }
+}
+
+} // namespace
+
+TEST(WholeObjectProperty, NoCommandTearsAnObject)
+{
+    rehearse([](const TidyMap& map, Command) { EXPECT_EQ(map.tornObject(), -1); });
+}
+
+TEST(WholeObjectProperty, LockedSlotsStayButForLockingAndFreeOnesAppendedOver)
+{
+    rehearse(
+        [](const TidyMap& map, Command command)
+        {
+            if (command != Command::Toggle)
+            {
+                EXPECT_EQ(map.changedLockedSlot(command == Command::Append), -1);
+            }
+        });
+}
+
+TEST(WholeObjectProperty, MovingShovingAndCompressingNeitherCreateNorLoseRegisters)
+{
+    rehearse(
+        [](const TidyMap& map, Command command)
+        {
+            if (rearranges(command))
+            {
+                EXPECT_TRUE(map.holdsTheSameRegisters());
+            }
+        });
+}
