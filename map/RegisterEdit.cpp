@@ -1,0 +1,126 @@
+#include "map/RegisterEdit.h"
+
+#include "map/Insertion.h"
+#include "map/SlotAccess.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <vector>
+
+namespace
+{
+
+std::int32_t saturated(std::int64_t registers)
+{
+    return static_cast<std::int32_t>(std::min<std::int64_t>(registers, std::numeric_limits<std::int32_t>::max()));
+}
+
+/// Drops the byte-order flags that mean nothing for the entry's type.
+void clearUnusableSwaps(RegisterEntry& entry)
+{
+    const bool hasBytes = entry.type != DataType::String;
+    const bool hasWords = hasBytes && entry.type != DataType::Int16;
+    const bool hasLongs = entry.type == DataType::Double;
+    entry.SwapBytes = entry.SwapBytes && hasBytes;
+    entry.SwapWords = entry.SwapWords && hasWords;
+    entry.SwapLongs = entry.SwapLongs && hasLongs;
+}
+
+RegisterEntry entryOf(const EditedRegister& edited, int head)
+{
+    RegisterEntry entry = freeSlot(head);
+    entry.used = true;
+    entry.type = typeFromName(edited.typeName);
+    entry.registerCount = static_cast<std::uint32_t>(edited.registerCount);
+    entry.SwapBytes = edited.SwapBytes;
+    entry.SwapWords = edited.SwapWords;
+    entry.SwapLongs = edited.SwapLongs;
+    entry.write = edited.write;
+    entry.tagname = InternedText(edited.tagname);
+    entry.description = InternedText(edited.description);
+    clearUnusableSwaps(entry);
+    return entry;
+}
+
+/// One copy of an object's head for each of its registers that lies in the space.
+std::vector<RegisterEntry> registersOf(const RegisterEntry& headEntry, int head, int count)
+{
+    const int inside = std::clamp(count, 0, registersPerSpace - head);
+    std::vector<RegisterEntry> registers(static_cast<std::size_t>(inside), headEntry);
+    std::uint32_t address = headEntry.address;
+    for (RegisterEntry& entry : registers)
+        entry.address = address++;
+    return registers;
+}
+
+} // namespace
+
+std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress)
+{
+    if (!isAddress(rowAddress))
+        return std::nullopt;
+    int address = rowAddress;
+    while (address > 0 && slotAt(slots, address).used && !isHead(slotAt(slots, address)))
+        --address;
+    return slotAt(slots, address).locked ? std::nullopt : std::optional(address);
+}
+
+EditRoom editRoom(const RegisterSlots& slots, int head)
+{
+    const std::int64_t count = slotAt(slots, head).registerCount;
+    const auto behind = static_cast<int>(std::min<std::int64_t>(head + count, registersPerSpace));
+
+    int firstUsed = behind;
+    while (firstUsed <= lastAddress && !slotAt(slots, firstUsed).used)
+        ++firstUsed;
+
+    int freeBeforeLock = 0;
+    for (int address = behind; address <= lastAddress && !slotAt(slots, address).locked; ++address)
+    {
+        if (!slotAt(slots, address).used)
+            ++freeBeforeLock;
+    }
+    return {saturated(count + firstUsed - behind), saturated(count + freeBeforeLock)};
+}
+
+SpaceCheck checkSpace(std::int32_t length, EditRoom room)
+{
+    if (length > room.movableRoom)
+        return SpaceCheck::TooLong;
+    return length <= room.freeRoom ? SpaceCheck::Fits : SpaceCheck::FitsByMoving;
+}
+
+std::optional<std::int32_t> parseLength(std::string_view text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
+    std::int32_t length = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), length);
+    if (error != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return length;
+}
+
+std::optional<FieldVisibility> visibilityFor(std::string_view typeName)
+{
+    if (typeName == "INT16")
+        return FieldVisibility{.lengthField = false, .byteOrder = true, .SwapBytes = true};
+    if (typeName == "INT32" || typeName == "FLOAT")
+        return FieldVisibility{.lengthField = false, .byteOrder = true, .SwapBytes = true, .SwapWords = true};
+    if (typeName == "DOUBLE")
+        return FieldVisibility{
+            .lengthField = std::nullopt, .byteOrder = true, .SwapBytes = true, .SwapWords = true, .SwapLongs = true};
+    if (typeName == "STRING")
+        return FieldVisibility{.lengthLabel = true, .lengthField = true};
+    return std::nullopt;
+}
+
+void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited)
+{
+    if (!isAddress(head) || slotAt(slots, head).locked)
+        return;
+    clearSlots(slots, head, slotAt(slots, head).registerCount);
+    insertRegisters(slots, registersOf(entryOf(edited, head), head, edited.registerCount), head);
+}
