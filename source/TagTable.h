@@ -3,9 +3,9 @@
 #include "source/TagRecord.h"
 #include "text/InternedText.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 /// Records in the tag table; a database holds at most so many tags.
@@ -39,7 +39,9 @@ public:
     std::optional<int> find(InternedText name) const;
 
 private:
+    std::size_t slotOf(InternedText name) const;
+
     std::vector<TagRecord> records;
     int filled = 0;
-    std::unordered_map<InternedText, int> firstByName;
+    std::vector<std::int32_t> firstByName; ///< open-addressing table of record indices
 };
