@@ -4,6 +4,7 @@
 #include "text/Integers.h"
 #include "text/Lines.h"
 #include "text/SafeWrite.h"
+#include "text/Utf8.h"
 
 #include <algorithm>
 #include <exception>
@@ -70,8 +71,8 @@ void appendCsvRow(std::string& text, RegisterSpace space, const RegisterEntry& s
 /// Characters of a UTF-8 text: every byte but those that continue a character.
 std::size_t characterCount(std::string_view utf8)
 {
-    const auto startsCharacter = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
-    return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), startsCharacter));
+    const auto continued = std::count_if(utf8.begin(), utf8.end(), isContinuationByte);
+    return utf8.size() - static_cast<std::size_t>(continued);
 }
 
 /// Pads what stands behind `start` with blanks to a width in characters.
