@@ -68,12 +68,11 @@ std::uint32_t parseHexadecimal(std::string_view text)
     return value;
 }
 
-std::string addressText(std::int64_t address)
+std::string addressText(std::uint32_t address)
 {
-    const bool negative = address < 0;
-    std::string digits = std::to_string(negative ? -address : address);
-    const std::size_t width = negative ? 4 : 5;
+    constexpr std::size_t width = 5;
+    std::string digits = std::to_string(address);
     if (digits.size() < width)
         digits.insert(0, width - digits.size(), '0');
-    return negative ? "-" + digits : digits;
+    return digits;
 }

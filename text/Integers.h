@@ -13,4 +13,4 @@ std::int32_t parseInteger(std::string_view text);
 std::uint32_t parseHexadecimal(std::string_view text);
 
 /// An address as files and grids show it: decimal, zero-padded to five digits ("%05d").
-std::string addressText(std::int64_t address);
+std::string addressText(std::uint32_t address);

@@ -102,4 +102,5 @@ TEST(AddressText, HasAtLeastFiveDigits)
     EXPECT_EQ(addressText(12345), "12345");
     EXPECT_EQ(addressText(65535), "65535");
     EXPECT_EQ(addressText(100000), "100000");
+    EXPECT_EQ(addressText(4294967295U), "4294967295");
 }
