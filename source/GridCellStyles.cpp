@@ -1,0 +1,15 @@
+#include "source/GridCellStyles.h"
+
+wxGridCellAttr* GridCellStyles::share(Rgb colour, int alignment)
+{
+    wxGridCellAttrPtr& style = styles[{colour.red, colour.green, colour.blue, alignment}];
+    if (!style)
+    {
+        style = wxGridCellAttrPtr(new wxGridCellAttr);
+        style->SetTextColour(wxColour(colour.red, colour.green, colour.blue));
+        style->SetAlignment(alignment, wxALIGN_CENTRE);
+        style->SetReadOnly();
+    }
+    style->IncRef();
+    return style.get();
+}

@@ -1,0 +1,62 @@
+#include "source/TagRow.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace
+{
+
+TagCell typeCell(TagType type)
+{
+    switch (type)
+    {
+    case TagType::Integer:
+        return {"Integer", {128, 128, 0}};
+    case TagType::Numeric:
+        return {"Float", {68, 128, 128}};
+    case TagType::String:
+        return {"String", {0, 128, 0}};
+    }
+    return {"Unknown", {255, 255, 255}};
+}
+
+/// The flag names of the groups that the tag belongs to, joined by "-".
+std::string flagsText(const std::vector<TagGroup>& groups, std::uint32_t tagGroups)
+{
+    std::string flags;
+    for (const TagGroup& group : groups)
+    {
+        if ((group.mask & tagGroups) != 0)
+            flags += group.flag + "-";
+    }
+    return flags.substr(0, flags.empty() ? 0 : flags.rfind('-'));
+}
+
+TagCell plainCell(std::string_view text)
+{
+    return {std::string(text), plainTagColour};
+}
+
+} // namespace
+
+TagCell tagCell(const TagDatabase& database, int tagIndex, int column)
+{
+    const TagRecord& tag = database.tags[tagIndex];
+    switch (static_cast<TagColumn>(column))
+    {
+    case TagColumn::Name:
+        return plainCell(tag.name.view());
+    case TagColumn::Type:
+        return typeCell(tag.type);
+    case TagColumn::Size:
+        return plainCell(std::to_string(tag.size));
+    case TagColumn::Flags:
+        return {flagsText(database.groups, tag.groups), {255, 217, 0}};
+    case TagColumn::Description:
+        return plainCell(tag.description.view());
+    case TagColumn::Index:
+        return plainCell(std::to_string(tagIndex));
+    }
+    return plainCell("");
+}

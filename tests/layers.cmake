@@ -1,0 +1,22 @@
+# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> text.
+# Run as a script: cmake -DSOURCE_DIR=dir -P layers.cmake
+
+set(layers text source map ui app)
+set(below "")
+set(offences "")
+foreach(layer IN LISTS layers)
+    list(APPEND below "${layer}")
+    list(JOIN below "|" allowed)
+    file(GLOB files "${SOURCE_DIR}/${layer}/*.h" "${SOURCE_DIR}/${layer}/*.cpp")
+    foreach(path IN LISTS files)
+        file(STRINGS "${path}" includes REGEX "^#include \"")
+        foreach(line IN LISTS includes)
+            if(NOT line MATCHES "^#include \"(${allowed})/")
+                string(APPEND offences "${path}: ${line}\n")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+if(offences)
+    message(FATAL_ERROR "Includes that point upwards:\n${offences}")
+endif()

@@ -1,0 +1,17 @@
+#pragma once
+
+class wxWindow;
+
+/// What the toolkit leaves to each desktop to arrange.
+namespace desktop
+{
+
+/// Asks the desktop to draw its own parts (scroll bars, menus, message boxes) in their dark variant.
+/// To be called once, before the first window is created.
+void preferDark();
+
+/// Lets a click on a control leave the keyboard focus where it is, so that the keys go on reaching the grid.
+/// The control is still reached with the Tab key.
+void keepFocusOnClick(wxWindow& control);
+
+} // namespace desktop

@@ -1,0 +1,14 @@
+#include "ui/EmbeddedFiles.h"
+
+#include <wx/msw/wrapwin.h>
+#include <wx/string.h>
+
+std::span<const unsigned char> embeddedFile(std::string_view name)
+{
+    const wxString wide = wxString::FromUTF8(name.data(), name.size());
+    const HRSRC found = ::FindResourceW(nullptr, wide.wc_str(), RT_RCDATA);
+    if (found == nullptr)
+        return {};
+    const auto* bytes = static_cast<const unsigned char*>(::LockResource(::LoadResource(nullptr, found)));
+    return {bytes, ::SizeofResource(nullptr, found)};
+}

@@ -1,0 +1,9 @@
+#include "ui/FileChooser.h"
+
+#include <wx/filedlg.h>
+
+wxString chooseFileWithDialog(wxWindow* parent, const FileQuestion& question)
+{
+    wxFileDialog dialog(parent, question.message, question.folder, question.name, question.wildcard, question.style);
+    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
+}

@@ -1,0 +1,125 @@
+// The editing commands: selection to addresses, one operation of the model, view up to date.
+
+#include "map/Clipboard.h"
+#include "map/Compress.h"
+#include "map/ErrorPurge.h"
+#include "map/Locks.h"
+#include "map/MapGridTable.h"
+#include "map/Messages.h"
+#include "map/TagPlacing.h"
+#include "map/Validation.h"
+#include "ui/MainFrame.h"
+
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+
+void MainFrame::copySourceTags()
+{
+    map.clipboard = ::copySourceTags(database.tags, sourceBrowser->selectedTags(), defaultByteOrder);
+}
+
+void MainFrame::copyRegisters()
+{
+    ::copyRegisters(map, collectSelection());
+}
+
+void MainFrame::cutRegisters()
+{
+    const std::vector<int> addresses = collectSelection();
+    if (addresses.empty())
+        return;
+    ::cutRegisters(map, addresses);
+    refreshMapView(-1);
+}
+
+void MainFrame::pasteRegisters()
+{
+    const std::optional<int> target = targetAddress();
+    if (!target)
+        return;
+    switch (::pasteRegisters(map, *target))
+    {
+    case PasteResult::NoRoom:
+        wxMessageBox(pasteRefusedText);
+        break;
+    case PasteResult::Pasted:
+        refreshMapView(-1);
+        break;
+    case PasteResult::NothingToDo:
+        break;
+    }
+}
+
+void MainFrame::appendRegisters()
+{
+    const std::optional<int> target = targetAddress();
+    if (target && ::appendRegisters(map, *target))
+        refreshMapView(-1);
+}
+
+void MainFrame::deleteRegisters()
+{
+    const std::vector<int> addresses = collectSelection();
+    if (addresses.empty())
+        return;
+    eraseRegisters(map, addresses);
+    refreshMapView(-1);
+}
+
+void MainFrame::moveRegisters(bool shoving, MoveDirection direction)
+{
+    if (refreshing)
+        return;
+    const std::vector<int> addresses = collectSelection();
+    if (addresses.empty())
+        return;
+    const MoveResult result = moveSlots(map.currentSlots(), addresses, direction, shoving);
+    if (map.viewMode == ViewMode::All)
+    {
+        refreshRows(addresses);
+        refreshRows(result.changed);
+    }
+    else
+    {
+        refreshMapView(-1);
+    }
+    reselectAddresses(result.positions);
+}
+
+void MainFrame::compressRegisters()
+{
+    switch (::compressRegisters(map.currentSlots(), collectSelection()))
+    {
+    case CompressResult::Locked:
+        wxMessageBox(compressRefusedText);
+        break;
+    case CompressResult::Compressed:
+        validateMap(map, database.tags);
+        refreshMapView(-1);
+        break;
+    case CompressResult::Unchanged:
+        refreshMapView(-1);
+        break;
+    case CompressResult::NothingSelected:
+        break;
+    }
+}
+
+void MainFrame::toggleLocks()
+{
+    const std::vector<int> addresses = collectSelection();
+    if (addresses.empty())
+        return;
+    ::toggleLocks(map.currentSlots(), addresses);
+    refreshMapView(-1);
+    reselectAddresses(addresses);
+}
+
+void MainFrame::deleteErrorRegisters()
+{
+    if (wxMessageBox(purgeQuestionText, confirmationCaption, wxYES_NO, this) != wxYES)
+        return;
+    ::deleteErrorRegisters(map);
+    validateMap(map, database.tags);
+    refreshMapView(-1);
+}

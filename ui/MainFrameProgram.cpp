@@ -1,0 +1,66 @@
+// Leaving the program and what goes with it.
+
+#include "map/DefinitionFile.h"
+#include "map/MapExport.h"
+#include "map/Messages.h"
+#include "ui/MainFrame.h"
+#include "ui/Paths.h"
+
+#include <wx/aboutdlg.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
+#include <wx/msgdlg.h>
+#include <wx/stdpaths.h>
+#include <wx/utils.h>
+
+void MainFrame::exitAndSave()
+{
+    if (map.isModified() && wxMessageBox("Save changes ?", confirmationCaption, wxYES_NO) == wxYES && !saveDefinition())
+        return;
+    Close(true);
+}
+
+bool MainFrame::saveDefinition()
+{
+    if (definitionPath.empty())
+    {
+        definitionPath = chooseFile(this, {"Save map definition file", wxString(), "map.csv",
+                                           "Map definition files (*.csv)|*.csv|All files (*.*)|*.*",
+                                           wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
+        if (definitionPath.empty())
+            return false;
+    }
+    saveDefinitionFile(toPath(definitionPath), map);
+    return true;
+}
+
+void MainFrame::exportMap()
+{
+    const wxString path =
+        chooseFile(this, {"Export map as CSV or Text file", wxStandardPaths::Get().GetDocumentsDir(), "data.csv",
+                          "CSV files (*.csv)|*.csv|Text files (*.txt)|*.txt", wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
+    if (!path.empty())
+        ::exportMap(map, toPath(path));
+}
+
+void MainFrame::showAbout()
+{
+    wxAboutDialogInfo about;
+    about.SetName("Tolvane : Modbus Map Editor");
+    about.SetVersion("1.0.0", wxString());
+    about.SetDescription("Modbus map editor for Varnok and Dravel products");
+    about.SetCopyright("Copyright (C) 2026 BELTHORNE LTD");
+    about.SetWebSite("https://www.belthorne.example");
+    wxAboutBox(about);
+}
+
+void MainFrame::showHelp()
+{
+    // The suite stores its paths in the form of one system only.
+    wxString folder = documentationFolder;
+    folder.Replace("\\", wxString(wxFileName::GetPathSeparator()));
+    const wxString document =
+        chooseFile(this, {"Select a document", folder, "*.pdf", "*.pdf", wxFD_OPEN | wxFD_FILE_MUST_EXIST});
+    if (!document.empty())
+        wxLaunchDefaultApplication(document);
+}

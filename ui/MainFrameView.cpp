@@ -1,0 +1,178 @@
+// The map grid: what it shows, what is selected in it, and its keys.
+
+#include "map/MapGridTable.h"
+#include "map/MapView.h"
+#include "map/Selection.h"
+#include "map/Validation.h"
+#include "source/GridSelection.h"
+#include "source/ToolkitText.h"
+#include "ui/MainFrame.h"
+#include "ui/NamedImages.h"
+#include "ui/Theme.h"
+
+#include <wx/bmpbuttn.h>
+#include <wx/grid.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr std::array<const char*, spaceCount> spaceImages{"png_tool_coil", "png_tool_input", "png_tool_status",
+                                                          "png_tool_holding"};
+
+/// Scrolls a grid until a row is the first one seen, as far as rows below it allow.
+void scrollToTop(wxGrid& grid, int row)
+{
+    grid.MakeCellVisible(row, 0);
+    int unit = 0;
+    grid.GetScrollPixelsPerUnit(nullptr, &unit);
+    if (unit > 0)
+        grid.Scroll(wxDefaultCoord, row * grid.GetRowSize(row) / unit);
+}
+
+} // namespace
+
+void MainFrame::refreshMapView(int scrollAddress)
+{
+    refreshing = true;
+    mapTable->show(shownAddresses(map.currentSlots(), map.viewMode));
+    if (scrollAddress >= 0 && mapTable->GetNumberRows() > 0)
+        scrollToTop(*mapGrid, mapTable->rowOf(scrollAddress).value_or(0));
+    refreshing = false;
+    viewLabel->SetLabel(toolkitText(viewModeLabel(map.viewMode)));
+    viewLabel->GetParent()->Layout();
+}
+
+void MainFrame::refreshRows(const std::vector<int>& addresses)
+{
+    // Rows answer from the map when they are painted; asking for the stretch that holds them all costs one repaint.
+    std::optional<int> first;
+    std::optional<int> last;
+    for (const int address : addresses)
+    {
+        const std::optional<int> row = mapTable->rowOf(address);
+        if (!row)
+            continue;
+        first = std::min(first.value_or(*row), *row);
+        last = std::max(last.value_or(*row), *row);
+    }
+    if (first)
+        mapGrid->RefreshBlock(*first, 0, *last, mapGrid->GetNumberCols() - 1);
+}
+
+void MainFrame::selectSpace(RegisterSpace space)
+{
+    map.currentSpace = space;
+    showSpaceButtons();
+    refreshMapView(0);
+}
+
+void MainFrame::showSpaceButtons()
+{
+    for (const RegisterSpace space : allSpaces)
+    {
+        const auto index = static_cast<std::size_t>(space);
+        const wxString image = spaceImages[index];
+        spaceButtons[index]->SetBitmapLabel(namedImage(space == map.currentSpace ? image + "_pressed" : image));
+    }
+}
+
+void MainFrame::toggleView()
+{
+    map.viewMode = nextViewMode(map.viewMode);
+    refreshMapView(-1);
+}
+
+void MainFrame::refreshStatus()
+{
+    map.errorCount = countErrors(map);
+    statusLabel->SetForegroundColour(theme::colour(map.errorCount > 0 ? theme::statusWarning : theme::statusGood));
+    statusLabel->SetLabel(toolkitText(statusText(map.errorCount)));
+}
+
+std::vector<int> MainFrame::selectedAddresses() const
+{
+    std::vector<int> addresses = selectedRows(*mapGrid);
+    std::transform(addresses.begin(), addresses.end(), addresses.begin(),
+                   [this](int row) { return mapTable->addressOf(row); });
+    return addresses;
+}
+
+std::optional<int> MainFrame::targetAddress() const
+{
+    if (mapTable->GetNumberRows() == 0)
+        return 0;
+    const std::vector<int> addresses = selectedAddresses();
+    if (addresses.empty())
+        return std::nullopt;
+    return addresses.front();
+}
+
+std::vector<int> MainFrame::collectSelection() const
+{
+    return ::collectSelection(map.currentSlots(), selectedAddresses());
+}
+
+void MainFrame::reselectAddresses(std::vector<int> addresses)
+{
+    refreshing = true;
+    std::sort(addresses.begin(), addresses.end());
+    std::vector<int> rows;
+    for (const int address : addresses)
+    {
+        const std::optional<int> row = mapTable->rowOf(address);
+        if (row && (rows.empty() || rows.back() < *row))
+            rows.push_back(*row);
+    }
+    mapGrid->ClearSelection();
+    addToSelection(*mapGrid, rows);
+    if (!addresses.empty() && mapTable->rowOf(addresses.front()))
+        mapGrid->SetGridCursor(rows.front(), 0);
+    refreshing = false;
+}
+
+void MainFrame::OnMapGridKeyDown(wxKeyEvent& event)
+{
+    if (refreshing)
+        return;
+    const bool control = event.ControlDown();
+    switch (event.GetKeyCode())
+    {
+    case WXK_SPACE:
+        return toggleView();
+    case WXK_DELETE:
+        return deleteRegisters();
+    case '=':
+    case WXK_NUMPAD_ADD:
+        return moveRegisters(control, MoveDirection::Down);
+    case '-':
+    case WXK_NUMPAD_SUBTRACT:
+        return moveRegisters(control, MoveDirection::Up);
+    case 'X':
+        if (control)
+            return cutRegisters();
+        break;
+    case 'C':
+        if (control)
+            return copyRegisters();
+        break;
+    case 'V':
+        if (control)
+            return pasteRegisters();
+        break;
+    case 'A':
+        if (control)
+            return mapGrid->SelectAll();
+        break;
+    default:
+        break;
+    }
+    event.Skip();
+}
+
+void MainFrame::OnTimer(wxTimerEvent&)
+{
+    refreshStatus();
+}

@@ -1,0 +1,46 @@
+#include "ui/NamedImages.h"
+
+#include "source/ToolkitText.h"
+#include "ui/EmbeddedFiles.h"
+
+#include <wx/bitmap.h>
+#include <wx/image.h>
+#include <wx/mstream.h>
+
+namespace
+{
+
+wxBitmap bitmapOf(const wxString& fileName)
+{
+    const std::span<const unsigned char> bytes = embeddedFile(modelText(fileName));
+    if (bytes.empty())
+        return {};
+    wxMemoryInputStream stream(bytes.data(), bytes.size());
+    return wxBitmap(wxImage(stream, wxBITMAP_TYPE_PNG));
+}
+
+} // namespace
+
+wxBitmapBundle namedImage(const wxString& name)
+{
+    const wxBitmap single = bitmapOf(name + ".png");
+    const wxBitmap twofold = bitmapOf(name + "@2x.png");
+    if (!single.IsOk() || !twofold.IsOk())
+        return {};
+    return wxBitmapBundle::FromBitmaps(single, twofold);
+}
+
+wxIconBundle namedIcon(const wxString& name)
+{
+    wxIconBundle icons;
+    for (const wxString& fileName : {name + ".png", name + "@2x.png"})
+    {
+        const wxBitmap bitmap = bitmapOf(fileName);
+        if (!bitmap.IsOk())
+            continue;
+        wxIcon icon;
+        icon.CopyFromBitmap(bitmap);
+        icons.AddIcon(icon);
+    }
+    return icons;
+}

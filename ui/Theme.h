@@ -1,0 +1,43 @@
+#pragma once
+
+#include "text/Rgb.h"
+
+#include <wx/colour.h>
+#include <wx/font.h>
+
+/// The one dark look of all windows: every colour and font that a window uses, named by what it is for.
+namespace theme
+{
+
+inline constexpr Rgb frameText{178, 178, 178};
+inline constexpr Rgb frameBackground{31, 31, 31};
+inline constexpr Rgb headerBackground{51, 51, 51};
+inline constexpr Rgb title{255, 128, 0};
+inline constexpr Rgb contentText{255, 255, 255};
+inline constexpr Rgb contentBackground{32, 32, 32};
+inline constexpr Rgb filterText{208, 208, 208};
+inline constexpr Rgb columnHeaderText{240, 240, 240};
+inline constexpr Rgb columnHeaderBackground{0, 64, 128};
+inline constexpr Rgb cellText{192, 192, 192};
+inline constexpr Rgb selection{51, 153, 255};
+inline constexpr Rgb groupFlag{255, 217, 0};
+inline constexpr Rgb groupDescription{224, 224, 224};
+inline constexpr Rgb statusStart{255, 255, 255};
+inline constexpr Rgb statusGood{176, 176, 176};
+inline constexpr Rgb statusWarning{255, 255, 0};
+
+/// The toolkit's form of a colour.
+inline wxColour colour(Rgb rgb)
+{
+    return {rgb.red, rgb.green, rgb.blue};
+}
+
+/// "Segoe UI", or the desktop's own sans face where that is not installed.
+/// @param points  size in points
+wxFont regular(int points);
+
+/// "Segoe UI Semibold" at weight 600, or the desktop's own sans face at that weight.
+/// @param points  size in points
+wxFont semibold(int points);
+
+} // namespace theme
