@@ -1,5 +1,6 @@
 #pragma once
 
+class wxTextCtrl;
 class wxWindow;
 
 /// What the toolkit leaves to each desktop to arrange.
@@ -13,5 +14,9 @@ void preferDark();
 /// Lets a click on a control leave the keyboard focus where it is, so that the keys go on reaching the grid.
 /// The control is still reached with the Tab key.
 void keepFocusOnClick(wxWindow& control);
+
+/// Pixels of height that the desktop gives a text field of its own accord.
+/// The toolkit's best size for one cannot be used with GTK: it is too small at first and grows with every layout.
+int fieldHeight(const wxTextCtrl& field);
 
 } // namespace desktop

@@ -1,7 +1,7 @@
 #include "ui/Desktop.h"
 
 #include <gtk/gtk.h>
-#include <wx/window.h>
+#include <wx/textctrl.h>
 
 namespace desktop
 {
@@ -14,6 +14,13 @@ void preferDark()
 void keepFocusOnClick(wxWindow& control)
 {
     gtk_widget_set_focus_on_click(control.GetHandle(), FALSE);
+}
+
+int fieldHeight(const wxTextCtrl& field)
+{
+    int height = 0;
+    gtk_widget_get_preferred_height(field.GetHandle(), nullptr, &height);
+    return height;
 }
 
 } // namespace desktop

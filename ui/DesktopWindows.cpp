@@ -1,6 +1,6 @@
 #include "ui/Desktop.h"
 
-#include <wx/window.h>
+#include <wx/textctrl.h>
 
 namespace desktop
 {
@@ -20,6 +20,11 @@ void keepFocusOnClick(wxWindow& control)
                          before->SetFocus();
                      event.Skip();
                  });
+}
+
+int fieldHeight(const wxTextCtrl& field)
+{
+    return field.GetBestSize().GetHeight();
 }
 
 } // namespace desktop

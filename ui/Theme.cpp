@@ -3,15 +3,25 @@
 #include <wx/fontenum.h>
 #include <wx/settings.h>
 
+#include <map>
+
 namespace
 {
+
+/// Whether a face is there; asked once for each, since the toolkit lists every face to find out.
+bool isInstalled(const wxString& name)
+{
+    static std::map<wxString, bool> known;
+    const auto found = known.find(name);
+    return found != known.end() ? found->second
+                                : known.emplace(name, wxFontEnumerator::IsValidFacename(name)).first->second;
+}
 
 wxFont face(const wxString& name, int points, int weight)
 {
     // The font of a missing face would be the toolkit's guess; the desktop's own face is what its user reads best.
-    static const bool installed = wxFontEnumerator::IsValidFacename("Segoe UI");
     wxFont font = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
-    if (installed)
+    if (isInstalled(name))
         font.SetFaceName(name);
     font.SetPointSize(points);
     font.SetNumericWeight(weight);
@@ -23,6 +33,11 @@ wxFont face(const wxString& name, int points, int weight)
 namespace theme
 {
 
+wxColour buttonBackground()
+{
+    return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+}
+
 wxFont regular(int points)
 {
     return face("Segoe UI", points, wxFONTWEIGHT_NORMAL);
@@ -31,6 +46,16 @@ wxFont regular(int points)
 wxFont semibold(int points)
 {
     return face("Segoe UI Semibold", points, wxFONTWEIGHT_SEMIBOLD);
+}
+
+wxFont dialog()
+{
+    return face("Arial", 10, wxFONTWEIGHT_NORMAL);
+}
+
+wxFont helpButton()
+{
+    return face("Arial Rounded MT Bold", 10, wxFONTWEIGHT_NORMAL);
 }
 
 } // namespace theme

@@ -25,12 +25,22 @@ inline constexpr Rgb groupDescription{224, 224, 224};
 inline constexpr Rgb statusStart{255, 255, 255};
 inline constexpr Rgb statusGood{176, 176, 176};
 inline constexpr Rgb statusWarning{255, 255, 0};
+inline constexpr Rgb dialogText{176, 176, 176};
+inline constexpr Rgb dialogBackground{48, 48, 48};
+inline constexpr Rgb entryText{255, 255, 255};
+inline constexpr Rgb entryBackground{64, 64, 64};
+inline constexpr Rgb buttonText{255, 255, 255};
+inline constexpr Rgb helpButtonText{0, 0, 0};
+inline constexpr Rgb helpButtonBackground{255, 255, 0};
 
 /// The toolkit's form of a colour.
 inline wxColour colour(Rgb rgb)
 {
     return {rgb.red, rgb.green, rgb.blue};
 }
+
+/// Background of the buttons that end a dialog: the desktop's colour of selected things.
+wxColour buttonBackground();
 
 /// "Segoe UI", or the desktop's own sans face where that is not installed.
 /// @param points  size in points
@@ -39,5 +49,11 @@ wxFont regular(int points);
 /// "Segoe UI Semibold" at weight 600, or the desktop's own sans face at that weight.
 /// @param points  size in points
 wxFont semibold(int points);
+
+/// "Arial" at 10 points, the font of whatever has none of its own in a dialog, or the desktop's own sans face.
+wxFont dialog();
+
+/// "Arial Rounded MT Bold" at 10 points, or the desktop's own sans face.
+wxFont helpButton();
 
 } // namespace theme
