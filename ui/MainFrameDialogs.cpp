@@ -1,9 +1,58 @@
 // The commands that ask in a dialog of their own.
 
+#include "map/RegisterEdit.h"
+#include "map/SlotAccess.h"
+#include "map/TagnameReplace.h"
+#include "map/Validation.h"
+#include "source/ToolkitText.h"
 #include "ui/MainFrame.h"
+#include "ui/RegisterEditor.h"
+#include "ui/SettingsDialog.h"
+#include "ui/TagSearchAndReplaceDialog.h"
 
-void MainFrame::replaceInTagnames() {}
+#include <wx/grid.h>
+#include <wx/textctrl.h>
 
-void MainFrame::editRegister() {}
+void MainFrame::replaceInTagnames()
+{
+    const std::vector<int> addresses = selectedAddresses();
+    if (addresses.empty())
+        return;
+    TagSearchAndReplaceDialog dialog(mapGrid, wxID_ANY, "Tagname Search and Replace");
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    const std::string find = modelText(dialog.findText->GetValue());
+    if (find.empty())
+        return;
+    ::replaceInTagnames(map.currentSlots(), addresses, find, modelText(dialog.replaceText->GetValue()));
+    validateMap(map, database.tags);
+    refreshMapView(-1);
+}
 
-void MainFrame::editSettings() {}
+void MainFrame::editRegister()
+{
+    const std::vector<int> addresses = selectedAddresses();
+    if (addresses.size() != 1)
+        return;
+    RegisterSlots& slots = map.currentSlots();
+    const std::optional<int> head = editedHead(slots, addresses.front());
+    if (!head)
+        return;
+    const RegisterEntry& entry = slotAt(slots, *head);
+    const wxString spaceName = toolkitText(spaceDisplayName(static_cast<int>(map.currentSpace)));
+    RegisterEditor dialog(mapGrid, wxID_ANY, wxString::Format("%s register %05d", spaceName, entry.address));
+    dialog.showEntry(entry, editRoom(slots, *head));
+    if (dialog.ShowModal() != wxID_OK)
+        return;
+    applyEdit(slots, *head, dialog.editedRegister());
+    validateMap(map, database.tags);
+    refreshMapView(-1);
+}
+
+void MainFrame::editSettings()
+{
+    SettingsDialog dialog(this);
+    dialog.showByteOrder(defaultByteOrder);
+    if (dialog.ShowModal() == wxID_OK)
+        defaultByteOrder = dialog.byteOrder();
+}

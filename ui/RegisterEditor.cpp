@@ -1,0 +1,138 @@
+#include "ui/RegisterEditor.h"
+
+#include "source/ToolkitText.h"
+#include "ui/ByteSwapHelp.h"
+#include "ui/DialogControls.h"
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/msgdlg.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/valnum.h>
+
+namespace
+{
+
+/// Pixels to spare beside the longest status text: a window manager may take a few off the dialog.
+constexpr int statusMargin = 20;
+
+constexpr const char* tooLongText = "Insufficient space - please correct register type or size";
+constexpr const char* movingText = "Insufficient space - registers will be moved down to create room";
+constexpr const char* noLengthText = "String length must be greater than zero";
+
+constexpr const char* okText = "Ok";
+constexpr const char* okMovingText = "Ok (see warning)";
+
+} // namespace
+
+RegisterEditor::RegisterEditor(wxWindow* parent, wxWindowID id, const wxString& title)
+    : RegisterEditorBase(parent, id, title)
+{
+    for (const DataType type : allDataTypes)
+        typeBox->Append(toolkitText(typeName(type)));
+    lengthField->SetValidator(wxIntegerValidator<int>());
+
+    // The dialog stays as wide as it is from here on, so it has to have room for the longest text at once.
+    const int longest = statusLabel->GetTextExtent(movingText).GetWidth();
+    statusLabel->SetMinSize(wxSize(longest + FromDIP(statusMargin), -1));
+    Fit();
+    CentreOnParent();
+}
+
+void RegisterEditor::showEntry(const RegisterEntry& entry, EditRoom entryRoom)
+{
+    tagnameField->SetValue(toolkitText(entry.tagname.view()));
+    descriptionField->SetValue(toolkitText(entry.description.view()));
+    swapBytesBox->SetValue(entry.SwapBytes);
+    swapWordsBox->SetValue(entry.SwapWords);
+    swapLongsBox->SetValue(entry.SwapLongs);
+    writeBox->SetValue(entry.write);
+    // The type writes a length of its own; the object's length comes last and is the one that is checked.
+    typeBox->SetValue(toolkitText(typeName(entry.type)));
+    room = entryRoom;
+    lengthField->SetValue(wxString::Format("%i", static_cast<std::int32_t>(entry.registerCount)));
+}
+
+EditedRegister RegisterEditor::editedRegister() const
+{
+    return {.tagname = modelText(tagnameField->GetValue()),
+            .description = modelText(descriptionField->GetValue()),
+            .typeName = modelText(typeBox->GetValue()),
+            .write = writeBox->IsChecked(),
+            .SwapBytes = swapBytesBox->IsChecked(),
+            .SwapWords = swapWordsBox->IsChecked(),
+            .SwapLongs = swapLongsBox->IsChecked(),
+            .registerCount = length().value_or(0)};
+}
+
+std::optional<std::int32_t> RegisterEditor::length() const
+{
+    return parseLength(modelText(lengthField->GetValue()));
+}
+
+void RegisterEditor::showFieldsFor(const FieldVisibility& visibility)
+{
+    lengthLabel->Show(visibility.lengthLabel);
+    lengthField->Show(visibility.lengthField.value_or(lengthField->IsShown()));
+    byteOrderLabel->Show(visibility.byteOrder);
+    swapBytesBox->Show(visibility.SwapBytes);
+    swapWordsBox->Show(visibility.SwapWords);
+    swapLongsBox->Show(visibility.SwapLongs);
+    byteSwapHelpButton->Show(visibility.byteOrder);
+}
+
+void RegisterEditor::OnTypeChanged(wxCommandEvent&)
+{
+    const std::string type = modelText(typeBox->GetValue());
+    lengthField->SetValue(wxString::Format("%d", registerCountFor(type, "1")));
+    if (const std::optional<FieldVisibility> visibility = visibilityFor(type))
+        showFieldsFor(*visibility);
+    Layout();
+}
+
+void RegisterEditor::OnLengthChanged(wxCommandEvent&)
+{
+    switch (checkSpace(length().value_or(1), room))
+    {
+    case SpaceCheck::TooLong:
+        statusLabel->SetLabel(tooLongText);
+        okButton->Hide();
+        break;
+    case SpaceCheck::Fits:
+        statusLabel->SetLabel(wxString());
+        dialogControls::setButtonText(*okButton, okText);
+        okButton->Show();
+        break;
+    case SpaceCheck::FitsByMoving:
+        statusLabel->SetLabel(movingText);
+        dialogControls::setButtonText(*okButton, okMovingText);
+        okButton->Show();
+        break;
+    }
+    Layout();
+}
+
+void RegisterEditor::OnByteSwapHelp(wxCommandEvent&)
+{
+    showByteSwapHelp();
+}
+
+void RegisterEditor::OnOk(wxCommandEvent&)
+{
+    // The Enter key presses the default button even while it is hidden.
+    if (!okButton->IsShown())
+        return;
+    if (tagnameField->GetValue().empty())
+        EndModal(wxID_CANCEL);
+    else if (length().value_or(0) < 1)
+        wxMessageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
+    else
+        EndModal(wxID_OK);
+}
+
+void RegisterEditor::OnCancel(wxCommandEvent&)
+{
+    EndModal(wxID_CANCEL);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "map/RegisterEdit.h"
+#include "ui/RegisterEditorBase.h"
+
+/// Lets the user edit one object of the register map and says beforehand whether its new size fits.
+/// Shown modally it answers wxID_OK for an edit to apply, otherwise wxID_CANCEL.
+class RegisterEditor : public RegisterEditorBase
+{
+public:
+    explicit RegisterEditor(wxWindow* parent, wxWindowID id = wxID_ANY, const wxString& title = wxString());
+
+    /// Fills every field from an object and takes the room that it has.
+    void showEntry(const RegisterEntry& entry, EditRoom entryRoom);
+
+    /// What the fields say; to be read after wxID_OK.
+    EditedRegister editedRegister() const;
+
+protected:
+    void OnTypeChanged(wxCommandEvent& event) override;
+    void OnLengthChanged(wxCommandEvent& event) override;
+    void OnByteSwapHelp(wxCommandEvent& event) override;
+    void OnOk(wxCommandEvent& event) override;
+    void OnCancel(wxCommandEvent& event) override;
+
+private:
+    void showFieldsFor(const FieldVisibility& visibility);
+    std::optional<std::int32_t> length() const;
+
+    EditRoom room;
+};

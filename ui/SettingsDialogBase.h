@@ -1,0 +1,40 @@
+#pragma once
+
+#include <wx/dialog.h>
+
+class wxButton;
+class wxCheckBox;
+class wxStaticText;
+
+/// The layout of the settings dialog: the default byte order of float and of whole-number objects.
+///
+/// Only the swaps that the made objects can carry are shown; the other boxes exist, hidden, so that a flag which came
+/// from elsewhere passes through the dialog unchanged.
+class SettingsDialogBase : public wxDialog
+{
+public:
+    explicit SettingsDialogBase(wxWindow* parent, wxWindowID id = wxID_ANY, const wxString& title = "Settings",
+                                const wxPoint& position = wxDefaultPosition, const wxSize& size = wxDefaultSize);
+
+    // The controls; the dialog owns them.
+    wxButton* byteSwapHelpButton = nullptr;
+    wxStaticText* longsHeading = nullptr;
+    wxCheckBox* floatSwapBytes = nullptr;
+    wxCheckBox* floatSwapWords = nullptr;
+    wxCheckBox* floatSwapLongs = nullptr;
+    wxCheckBox* intSwapBytes = nullptr;
+    wxCheckBox* intSwapWords = nullptr;
+    wxCheckBox* intSwapLongs = nullptr;
+    wxButton* okButton = nullptr;
+    wxButton* cancelButton = nullptr;
+
+protected:
+    virtual void OnByteSwapHelp(wxCommandEvent& event);
+    virtual void OnOk(wxCommandEvent& event);
+    virtual void OnCancel(wxCommandEvent& event);
+
+private:
+    wxSizer* layHeading();
+    wxStaticText* createExplanation();
+    wxSizer* layByteOrder();
+};
