@@ -1,0 +1,110 @@
+#include "benchmarks/DrivenFrame.h"
+
+#include "benchmarks/FullSize.h"
+#include "benchmarks/Screen.h"
+#include "map/DefinitionFile.h"
+#include "ui/MainFrame.h"
+
+#include <wx/app.h>
+#include <wx/bmpbuttn.h>
+#include <wx/grid.h>
+#include <wx/textctrl.h>
+
+namespace
+{
+
+wxWindow* findByTooltip(wxWindow& parent, const wxString& tooltip)
+{
+    for (wxWindow* const child : parent.GetChildren())
+    {
+        if (child->GetToolTipText() == tooltip)
+            return child;
+        if (wxWindow* const found = findByTooltip(*child, tooltip))
+            return found;
+    }
+    return nullptr;
+}
+
+void sendKey(wxWindow& window, int key, bool control)
+{
+    wxKeyEvent event(wxEVT_KEY_DOWN);
+    event.SetEventObject(&window);
+    event.m_keyCode = key;
+    event.SetControlDown(control);
+    window.GetEventHandler()->ProcessEvent(event);
+}
+
+} // namespace
+
+DrivenFrame::DrivenFrame(const StartupValues& startup) : MainFrame(startup, [] { return wxString("/suite/"); }) {}
+
+void DrivenFrame::press(int key)
+{
+    sendKey(*mapGrid, key, false);
+}
+
+void DrivenFrame::pressControl(int key)
+{
+    sendKey(*mapGrid, key, true);
+}
+
+void DrivenFrame::click(const wxString& tooltip)
+{
+    wxWindow* const button = findByTooltip(*this, tooltip);
+    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
+    event.SetEventObject(button);
+    button->GetEventHandler()->ProcessEvent(event);
+}
+
+void DrivenFrame::filterBy(const wxString& text)
+{
+    sourceFilter->SetValue(text);
+}
+
+void DrivenFrame::showAllRegisters()
+{
+    while (registerMap().viewMode != ViewMode::All)
+        press(WXK_SPACE);
+}
+
+FrameOnScreen::FrameOnScreen()
+{
+    const auto database = folder.file("plant.json");
+    const auto definition = folder.file("map.csv");
+    writeInput(database, fullDatabaseJson());
+    RegisterMap map;
+    fillWithObjects(map);
+    writeInput(definition, definitionText(map));
+
+    frame = new DrivenFrame({.databasePath = database.string(), .definitionPath = definition.string()});
+    bool painted = false;
+    frame->mapRows().GetGridWindow()->Bind(wxEVT_PAINT,
+                                           [&painted](wxPaintEvent& event)
+                                           {
+                                               painted = true;
+                                               event.Skip();
+                                           });
+    frame->Maximize();
+    frame->Show();
+    frame->settleLayout();
+    while (!painted)
+        handleEvents();
+}
+
+FrameOnScreen::~FrameOnScreen()
+{
+    frame->Destroy();
+    handleEvents();
+}
+
+void handleEvents()
+{
+    wxTheApp->Yield();
+    wxTheApp->ProcessIdle();
+}
+
+void paintNow(wxWindow& window)
+{
+    window.Update();
+    syncWithScreen();
+}

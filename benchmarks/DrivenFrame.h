@@ -1,0 +1,53 @@
+#pragma once
+
+#include "benchmarks/ScratchFiles.h"
+#include "ui/MainFrame.h"
+
+#include <memory>
+
+/// The main window on the full-size plant, driven as a user does: keys to the map grid, clicks on buttons, typing into
+/// the filter.
+class DrivenFrame : public MainFrame
+{
+public:
+    explicit DrivenFrame(const StartupValues& startup);
+
+    wxGrid& mapRows() { return *mapGrid; }
+    wxGrid& tagRows() { return *sourceGrid; }
+
+    /// Presses a key in the map grid.
+    void press(int key);
+    void pressControl(int key);
+
+    /// Clicks the button that has this tooltip.
+    void click(const wxString& tooltip);
+
+    /// Puts a text into the filter field.
+    void filterBy(const wxString& text);
+
+    /// Toggles the view until the map grid shows every register.
+    void showAllRegisters();
+};
+
+/// Shows the main window on the plant's database and map, maximised and painted, and takes it away again.
+class FrameOnScreen
+{
+public:
+    FrameOnScreen();
+    ~FrameOnScreen();
+    FrameOnScreen(const FrameOnScreen&) = delete;
+    FrameOnScreen& operator=(const FrameOnScreen&) = delete;
+
+    DrivenFrame* operator->() { return frame; }
+    DrivenFrame& operator*() { return *frame; }
+
+private:
+    ScratchFolder folder;
+    DrivenFrame* frame = nullptr;
+};
+
+/// Handles what is waiting for the program, painting included.
+void handleEvents();
+
+/// Paints what has changed in a window at once and waits until the screen has it.
+void paintNow(wxWindow& window);

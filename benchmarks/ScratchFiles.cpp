@@ -1,0 +1,60 @@
+#include "benchmarks/ScratchFiles.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+void require(bool done, const fs::path& path)
+{
+    if (!done)
+        throw std::runtime_error("cannot use " + path.string());
+}
+
+} // namespace
+
+ScratchFolder::ScratchFolder()
+{
+    std::string name = TOLVANE_BENCH_SCRATCH "/tolvane-XXXXXX";
+    require(::mkdtemp(name.data()) != nullptr, name);
+    folder = name;
+}
+
+ScratchFolder::~ScratchFolder()
+{
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+}
+
+std::string readPlainly(const fs::path& path)
+{
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    require(file >= 0, path);
+    std::string bytes(fs::file_size(path), '\0');
+    const ssize_t count = ::read(file, bytes.data(), bytes.size());
+    ::close(file);
+    require(count == static_cast<ssize_t>(bytes.size()), path);
+    return bytes;
+}
+
+void writeAndSync(const fs::path& path, std::string_view bytes)
+{
+    constexpr mode_t everybody = 0666;
+    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, everybody);
+    require(file >= 0, path);
+    const bool written = ::write(file, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+    const bool synced = ::fsync(file) == 0;
+    ::close(file);
+    require(written && synced, path);
+}
+
+void writeInput(const fs::path& path, std::string_view bytes)
+{
+    std::ofstream(path, std::ios::binary) << bytes;
+}

@@ -1,0 +1,70 @@
+// The benchmark program: work and yardsticks at full size, printed as a table.
+
+#include "benchmarks/Benchmarks.h"
+#include "ui/Desktop.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/image.h>
+#include <wx/utils.h>
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+namespace
+{
+
+/// An application whose main loop is never run: the benchmarks handle its events when they want them handled.
+class BenchmarkApp : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        wxInitAllImageHandlers();
+        desktop::preferDark();
+        return true;
+    }
+};
+
+void runBenchmarks()
+{
+    RatioTable table;
+    addMapBenchmarks(table);
+    addEditingBenchmarks(table);
+    addFileBenchmarks(table);
+    addFilterBenchmarks(table);
+    addGridBenchmarks(table);
+    addCommandBenchmarks(table);
+    addStartBenchmarks(table);
+    benchmark::RunSpecifiedBenchmarks(&table);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+try
+{
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return EXIT_FAILURE;
+
+    // The program looks for the suite's key file; the build tree has one.
+    wxSetEnv("XDG_CONFIG_DIRS", TOLVANE_BENCH_CONFIG);
+    wxApp::SetInstance(new BenchmarkApp);
+    if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit())
+        return EXIT_FAILURE;
+    {
+        wxEventLoop loop;
+        const wxEventLoopActivator active(&loop);
+        runBenchmarks();
+    }
+    wxTheApp->OnExit();
+    wxEntryCleanup();
+    return EXIT_SUCCESS;
+}
+catch (const std::exception& error)
+{
+    std::cerr << "tolvane_bench: " << error.what() << '\n';
+    return EXIT_FAILURE;
+}
