@@ -1,5 +1,6 @@
 #include "ui/MainFrameBase.h"
 
+#include "source/RowCellRenderer.h"
 #include "ui/GridHeader.h"
 #include "ui/Theme.h"
 
@@ -118,6 +119,7 @@ wxGrid* MainFrameBase::createGrid(wxWindow* parent, const std::vector<int>& colu
     grid->SetScrollLineY(FromDIP(rowHeight)); // no row is ever cut at the top
     grid->DisableDragRowSize();
     grid->SetDefaultCellOverflow(false);
+    grid->SetDefaultRenderer(new RowCellRenderer);
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
     grid->SetDefaultCellFont(theme::regular(10));
     grid->SetLabelFont(theme::regular(10));
