@@ -1,5 +1,6 @@
 #include "map/DefinitionFile.h"
 
+#include "map/DefinitionLine.h"
 #include "map/PublishedName.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
@@ -7,7 +8,6 @@
 #include "text/ReadFile.h"
 #include "text/SafeWrite.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -71,11 +71,6 @@ void readLine(std::string_view line, RegisterMap& map, const TagTable& tags)
     parseDefinitionLine(map, fields);
 }
 
-bool contains(std::string_view text, std::string_view part)
-{
-    return text.find(part) != std::string_view::npos;
-}
-
 void appendOrder(std::string& text, const RegisterEntry& head)
 {
     const std::size_t begin = text.size();
@@ -116,44 +111,6 @@ void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& hea
 }
 
 } // namespace
-
-void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields)
-{
-    const bool write = fields.tagname.ends_with(writeSuffix);
-    if (contains(fields.tagname, ".") && !write)
-        return;
-    const std::int32_t count = registerCountFor(fields.type, fields.count);
-    const std::optional<RegisterSpace> space = spaceFromKeyword(fields.space);
-    if (!space || count < 1)
-        return;
-
-    const DataType type = typeFromName(fields.type);
-    const InternedText tagname(fields.tagname.substr(0, fields.tagname.size() - (write ? writeSuffix.size() : 0)));
-    const InternedText description(fields.description.substr(0, fields.description.find('{')));
-    const bool swapBytes = contains(fields.order, "BYTES");
-    const bool swapWords = contains(fields.order, "WORDS");
-    const bool swapLongs = contains(fields.order, "LONGS");
-    const bool locked = fields.lock.starts_with("LOCKED");
-
-    const std::int64_t start = parseInteger(fields.address);
-    const std::int64_t end = std::min<std::int64_t>(start + count, registersPerSpace);
-    for (std::int64_t address = std::max<std::int64_t>(start, 0); address < end; ++address)
-    {
-        RegisterEntry& slot = map.slots(*space)[static_cast<std::size_t>(address)];
-        slot.used = true;
-        slot.startAddress = static_cast<std::uint32_t>(start);
-        slot.address = static_cast<std::uint32_t>(address);
-        slot.type = type;
-        slot.registerCount = static_cast<std::uint32_t>(count);
-        slot.write = write;
-        slot.tagname = tagname;
-        slot.description = description;
-        slot.SwapBytes |= swapBytes;
-        slot.SwapWords |= swapWords;
-        slot.SwapLongs |= swapLongs;
-        slot.locked = locked;
-    }
-}
 
 bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags)
 {

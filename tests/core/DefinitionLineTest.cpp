@@ -1,4 +1,4 @@
-#include "map/DefinitionFile.h"
+#include "map/DefinitionLine.h"
 
 #include <gtest/gtest.h>
 

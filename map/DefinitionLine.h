@@ -1,0 +1,51 @@
+#pragma once
+
+#include "map/RegisterMap.h"
+
+#include <optional>
+#include <string_view>
+
+/// What one line of a definition file says, and placing it.
+
+/// The nine fields of a definition line, as texts.
+struct DefinitionFields
+{
+    std::string_view space;       ///< "COIL", "INPUT", "STATUS" or "HOLDING"
+    std::string_view address;     ///< head's address, a base-10 integer
+    std::string_view order;       ///< any of "BYTES", "WORDS", "LONGS" anywhere in it
+    std::string_view type;        ///< type name
+    std::string_view tagname;     ///< tagname, with ".1" behind it when the master may write
+    std::string_view description; ///< read up to its first "{"
+    std::string_view count;       ///< registers of a STRING, a base-10 integer
+    std::string_view lock;        ///< locked when it begins with "LOCKED"
+    std::string_view status;      ///< written for people, never read
+};
+
+/// The object that a definition line describes.
+struct DefinitionObject
+{
+    RegisterSpace space = RegisterSpace::Coil;
+    RegisterEntry values; ///< of every slot but for `address`; the start address may lie outside the space
+
+    /// The first register of the object that lies in the space; not below `endAddress` when none does.
+    int firstAddress() const;
+
+    /// The address behind the last register of the object that lies in the space, at most 65536.
+    int endAddress() const;
+};
+
+/// Reads the fields of a line.
+/// @return nothing when the line is to be dropped: its space is unknown, its tagname holds a "." without ending in
+///         ".1", or its object has no registers
+std::optional<DefinitionObject> describedObject(const DefinitionFields& fields);
+
+/// Gives a slot what its object's line says, except for the byte-order flags and what validation finds out.
+/// @param address  of the slot, 0..65535
+void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values);
+
+/// Places the object that one line describes over whatever its slots hold, locked or not; a line to be dropped places
+/// nothing.
+///
+/// Registers outside 0..65535 are left out while the full count is kept. Byte-order flags that the line does not name
+/// stay as the slot had them.
+void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields);
