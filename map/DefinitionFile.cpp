@@ -1,6 +1,6 @@
 #include "map/DefinitionFile.h"
 
-#include "map/DefinitionLine.h"
+#include "map/DefinitionPlacer.h"
 #include "map/PublishedName.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
@@ -47,7 +47,7 @@ std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const T
     return registersForString(tags[*index].size);
 }
 
-void readLine(std::string_view line, RegisterMap& map, const TagTable& tags)
+void readLine(std::string_view line, DefinitionPlacer& placer, const TagTable& tags)
 {
     const SplitLine split = splitLine(line);
     const auto& f = split.fields;
@@ -68,7 +68,8 @@ void readLine(std::string_view line, RegisterMap& map, const TagTable& tags)
     {
         return;
     }
-    parseDefinitionLine(map, fields);
+    if (const std::optional<DefinitionObject> object = describedObject(fields))
+        placer.add(*object);
 }
 
 void appendOrder(std::string& text, const RegisterEntry& head)
@@ -118,7 +119,9 @@ bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, con
     if (!bytes)
         return false;
     const std::string text = decodeText(std::move(*bytes));
-    forEachLine(text, [&](std::string_view line) { readLine(line, map, tags); });
+    DefinitionPlacer placer(map);
+    forEachLine(text, [&](std::string_view line) { readLine(line, placer, tags); });
+    placer.placeAll();
     return true;
 }
 

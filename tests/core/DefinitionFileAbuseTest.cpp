@@ -153,3 +153,36 @@ TEST_F(DefinitionFileAbuse, NumbersAroundTheEndsStayInsideTheSpace)
     EXPECT_FALSE(slot(65535, RegisterSpace::Coil).used);
     EXPECT_FALSE(slot(0, RegisterSpace::Status).used);
 }
+
+TEST_F(DefinitionFileAbuse, LongObjectsThatCoverEachOtherAreReadInOnePass)
+{
+    constexpr int lines = 65536;
+    for (const char* count : {"65535", "2147483647"})
+    {
+        map.initialise();
+        std::string text;
+        for (int line = 0; line < lines; ++line)
+        {
+            text += "HOLDING," + std::to_string(line) + (line % 2 == 0 ? ",BYTES+WORDS+LONGS" : ",NONE") + ",STRING,T" +
+                    std::to_string(line) + ",x," + count + "\n";
+        }
+        load(text);
+        for (int address = 0; address < lines; ++address)
+        {
+            ASSERT_EQ(slot(address).startAddress, static_cast<std::uint32_t>(address));
+            ASSERT_TRUE(slot(address).SwapLongs);
+        }
+    }
+}
+
+TEST_F(DefinitionFileAbuse, LongObjectsInFrontOfEachOtherAreReadInOnePass)
+{
+    std::string text;
+    for (int line = 65535; line >= 0; --line)
+        text +=
+            "COIL,-" + std::to_string(line) + ",WORDS,STRING,T" + std::to_string(line) + ",x,2147483647,LOCKED,OK\n";
+    load(text);
+    EXPECT_EQ(slot(0, RegisterSpace::Coil).tagname.view(), "T0");
+    EXPECT_EQ(slot(65535, RegisterSpace::Coil).tagname.view(), "T0");
+    EXPECT_TRUE(slot(65535, RegisterSpace::Coil).SwapWords);
+}

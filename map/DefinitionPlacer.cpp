@@ -1,0 +1,38 @@
+#include "map/DefinitionPlacer.h"
+
+#include <algorithm>
+#include <ranges>
+
+void DefinitionPlacer::add(const DefinitionObject& object)
+{
+    // As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight.
+    constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
+    waiting.push_back(object);
+    if (waiting.size() == mostWaiting)
+        placeAll();
+}
+
+void DefinitionPlacer::placeAll()
+{
+    std::array<LeftOver, spaceCount> left;
+    for (const DefinitionObject& object : waiting | std::views::reverse)
+        place(object, left[static_cast<std::size_t>(object.space)]);
+    waiting.clear();
+}
+
+void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
+{
+    const RegisterEntry& values = object.values;
+    const int first = object.firstAddress();
+    const int end = object.endAddress();
+    RegisterSlots& slots = map.slots(object.space);
+    const auto slotAt = [&](int address) -> RegisterEntry& { return slots[static_cast<std::size_t>(address)]; };
+
+    left.slots.visit(first, end, [&](int address) { overwriteSlot(slotAt(address), address, values); });
+    if (values.SwapBytes)
+        left.swapBytes.visit(first, end, [&](int address) { slotAt(address).SwapBytes = true; });
+    if (values.SwapWords)
+        left.swapWords.visit(first, end, [&](int address) { slotAt(address).SwapWords = true; });
+    if (values.SwapLongs)
+        left.swapLongs.visit(first, end, [&](int address) { slotAt(address).SwapLongs = true; });
+}
