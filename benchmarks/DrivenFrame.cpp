@@ -77,18 +77,9 @@ FrameOnScreen::FrameOnScreen()
     writeInput(definition, definitionText(map));
 
     frame = new DrivenFrame({.databasePath = database.string(), .definitionPath = definition.string()});
-    bool painted = false;
-    frame->mapRows().GetGridWindow()->Bind(wxEVT_PAINT,
-                                           [&painted](wxPaintEvent& event)
-                                           {
-                                               painted = true;
-                                               event.Skip();
-                                           });
-    frame->Maximize();
-    frame->Show();
+    showMaximised(*frame, *frame->mapRows().GetGridWindow());
     frame->settleLayout();
-    while (!painted)
-        handleEvents();
+    handleEvents();
 }
 
 FrameOnScreen::~FrameOnScreen()
@@ -101,6 +92,21 @@ void handleEvents()
 {
     wxTheApp->Yield();
     wxTheApp->ProcessIdle();
+}
+
+void showMaximised(wxFrame& frame, wxWindow& part)
+{
+    const auto painted = std::make_shared<bool>(false);
+    part.Bind(wxEVT_PAINT,
+              [painted](wxPaintEvent& event)
+              {
+                  *painted = true;
+                  event.Skip();
+              });
+    frame.Maximize();
+    frame.Show();
+    while (!*painted)
+        handleEvents();
 }
 
 void paintNow(wxWindow& window)

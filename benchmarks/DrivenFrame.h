@@ -49,5 +49,8 @@ private:
 /// Handles what is waiting for the program, painting included.
 void handleEvents();
 
+/// Shows a frame over the whole screen and handles events until one of its windows has been painted.
+void showMaximised(wxFrame& frame, wxWindow& part);
+
 /// Paints what has changed in a window at once and waits until the screen has it.
 void paintNow(wxWindow& window);

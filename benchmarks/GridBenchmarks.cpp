@@ -22,18 +22,8 @@ class GridOnScreen
 public:
     GridOnScreen() : frame(new wxFrame(nullptr, wxID_ANY, "Grid")), shown(new wxGrid(frame, wxID_ANY))
     {
-        frame->Maximize();
-        bool painted = false;
-        shown->GetGridWindow()->Bind(wxEVT_PAINT,
-                                     [&painted](wxPaintEvent& event)
-                                     {
-                                         painted = true;
-                                         event.Skip();
-                                     });
         shown->CreateGrid(0, mapColumnCount, wxGrid::wxGridSelectRows);
-        frame->Show();
-        while (!painted)
-            handleEvents();
+        showMaximised(*frame, *shown->GetGridWindow());
     }
     ~GridOnScreen()
     {
