@@ -70,7 +70,11 @@ MainFrame::MainFrame(const StartupValues& startup, const InstallationLookup& fin
     mapGrid->SetFocus();
 }
 
-MainFrame::~MainFrame() = default;
+MainFrame::~MainFrame()
+{
+    // The grids answer from the data of this object until they are gone, even while they lose the keyboard focus.
+    DestroyChildren();
+}
 
 void MainFrame::findSuite(const InstallationLookup& findInstallation)
 {
