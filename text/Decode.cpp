@@ -2,7 +2,9 @@
 
 #include "text/Utf8.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <utility>
@@ -142,15 +144,22 @@ std::string decodeUtf32(std::string_view bytes, bool lowestByteFirst)
 
 std::string decodeLatin1(std::string_view bytes)
 {
-    std::string text;
-    text.reserve(bytes.size() + bytes.size() / 8);
-    for (std::size_t position = 0; position < bytes.size();)
+    const auto isHigh = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
+    const auto highBytes = static_cast<std::size_t>(std::ranges::count_if(bytes, isHigh));
+    std::string text(bytes.size() + highBytes, '\0');
+    char* place = text.data();
+    for (const char c : bytes)
     {
-        const std::size_t run = asciiRunLength(bytes, position);
-        text.append(bytes.substr(position, run));
-        position += run;
-        for (; position < bytes.size() && static_cast<unsigned char>(bytes[position]) >= 0x80; ++position)
-            appendCharacter(text, static_cast<unsigned char>(bytes[position]));
+        if (isHigh(c))
+        {
+            const unsigned byte = static_cast<unsigned char>(c);
+            *place++ = static_cast<char>(0xC0U | byte >> 6U);
+            *place++ = static_cast<char>(0x80U | (byte & 0x3FU));
+        }
+        else
+        {
+            *place++ = c;
+        }
     }
     return text;
 }

@@ -8,12 +8,17 @@ namespace
 
 constexpr std::uint64_t highBits = 0x8080808080808080ULL;
 
-/// True when one of the 32 bytes is not ASCII.
+/// True when one of the bytes is not ASCII.
+/// @tparam length  a multiple of 8
+template <std::size_t length>
 bool holdsHighByte(const char* bytes)
 {
-    std::uint64_t words[4];
-    std::memcpy(words, bytes, sizeof words);
-    return ((words[0] | words[1] | words[2] | words[3]) & highBits) != 0;
+    std::uint64_t words[length / 8];
+    std::memcpy(words, bytes, length);
+    std::uint64_t all = 0;
+    for (const std::uint64_t word : words)
+        all |= word;
+    return (all & highBits) != 0;
 }
 
 constexpr bool isCharacter(char32_t codePoint)
@@ -56,8 +61,10 @@ std::size_t asciiRunLength(std::string_view text, std::size_t start)
     const char* const first = text.data() + start;
     const char* const end = text.data() + text.size();
     const char* place = first;
-    while (end - place >= 32 && !holdsHighByte(place))
+    while (end - place >= 32 && !holdsHighByte<32>(place))
         place += 32;
+    while (end - place >= 8 && !holdsHighByte<8>(place))
+        place += 8;
     while (place != end && static_cast<unsigned char>(*place) < 0x80)
         ++place;
     return static_cast<std::size_t>(place - first);

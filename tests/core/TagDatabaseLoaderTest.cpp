@@ -236,9 +236,9 @@ TEST(TagDatabaseLoader, FileCutOffAnywhereLeavesNothing)
 {
     const std::string whole = withoutLineBreaks(plant);
     const TempFolder folder;
+    TagDatabase database;
     for (std::size_t length = 0; length < whole.size(); ++length)
     {
-        TagDatabase database;
         const auto path = folder.write("cut.json", std::string_view(whole).substr(0, length));
         ASSERT_EQ(loadTagDatabase(path, database), LoadResult::BadJson) << length;
         expectNothing(database);
