@@ -83,6 +83,14 @@ void RegisterEditor::showFieldsFor(const FieldVisibility& visibility)
     byteSwapHelpButton->Show(visibility.byteOrder);
 }
 
+void RegisterEditor::offerOk(const wxString& text)
+{
+    dialogControls::setButtonText(*okButton, text);
+    okButton->Show();
+    // A button that is hidden may stop being the one that the Enter key presses, as it does with GTK.
+    okButton->SetDefault();
+}
+
 void RegisterEditor::OnTypeChanged(wxCommandEvent&)
 {
     const std::string type = modelText(typeBox->GetValue());
@@ -102,13 +110,11 @@ void RegisterEditor::OnLengthChanged(wxCommandEvent&)
         break;
     case SpaceCheck::Fits:
         statusLabel->SetLabel(wxString());
-        dialogControls::setButtonText(*okButton, okText);
-        okButton->Show();
+        offerOk(okText);
         break;
     case SpaceCheck::FitsByMoving:
         statusLabel->SetLabel(movingText);
-        dialogControls::setButtonText(*okButton, okMovingText);
-        okButton->Show();
+        offerOk(okMovingText);
         break;
     }
     Layout();
@@ -121,7 +127,7 @@ void RegisterEditor::OnByteSwapHelp(wxCommandEvent&)
 
 void RegisterEditor::OnOk(wxCommandEvent&)
 {
-    // The Enter key presses the default button even while it is hidden.
+    // A default button that is hidden may still be pressed by the Enter key.
     if (!okButton->IsShown())
         return;
     if (tagnameField->GetValue().empty())
