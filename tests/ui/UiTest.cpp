@@ -1,0 +1,174 @@
+#include "tests/ui/UiTest.h"
+
+#include "source/ToolkitText.h"
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/msgdlg.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
+
+#include <chrono>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+/// Longer than the slowest machine takes for anything that is tested.
+constexpr std::chrono::seconds patience(30);
+
+/// Milliseconds for which a wait for events lasts before the condition is looked at again.
+constexpr unsigned long eventWait = 10;
+
+/// The dialog that a script is going to work.
+const wxDialog* expectedDialog = nullptr;
+
+std::string describe(const wxDialog& dialog)
+{
+    if (const auto* const box = dynamic_cast<const wxMessageDialogBase*>(&dialog))
+        return "message box \"" + modelText(box->GetMessage()) + "\"";
+    return "dialog \"" + modelText(dialog.GetTitle()) + "\"";
+}
+
+std::string describe(const wxWindow& control)
+{
+    return modelText(control.GetClassInfo()->GetClassName()) + (" \"" + modelText(control.GetLabel()) + "\"");
+}
+
+} // namespace
+
+bool waitUntil(const std::function<bool()>& condition)
+{
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (!condition())
+    {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        wxEventLoopBase::GetActive()->DispatchTimeout(eventWait);
+    }
+    return true;
+}
+
+void typeText(const std::string& text)
+{
+    wxUIActionSimulator().Text(text.c_str());
+}
+
+void pressKey(int key, int modifiers)
+{
+    wxUIActionSimulator().Char(key, modifiers);
+}
+
+void clickOn(const wxWindow& control)
+{
+    EXPECT_TRUE(waitUntil([&control] { return control.IsShownOnScreen(); })) << describe(control);
+    const wxRect rect = control.GetScreenRect();
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(rect.x + rect.width / 2, rect.y + rect.height / 2);
+    simulator.MouseClick();
+}
+
+void typeOver(wxTextCtrl& field, const std::string& text)
+{
+    field.SetFocus();
+    EXPECT_TRUE(waitUntil([&field] { return field.HasFocus(); }));
+    field.SelectAll();
+    typeText(text);
+    EXPECT_TRUE(waitUntil([&field, &text] { return modelText(field.GetValue()) == text; }))
+        << "the field holds \"" << modelText(field.GetValue()) << '"';
+}
+
+void pressCloseBox(wxWindow& window)
+{
+    window.Close();
+}
+
+void expectCleanLayout(const wxWindow& window)
+{
+    const wxRect inside(window.GetClientSize());
+    std::vector<const wxWindow*> visible;
+    for (const wxWindow* const child : window.GetChildren())
+    {
+        if (!child->IsShown() || child->IsTopLevel())
+            continue;
+        EXPECT_TRUE(inside.Contains(child->GetRect())) << describe(*child) << " is cut off";
+        EXPECT_GE(child->GetSize().GetWidth(), child->GetEffectiveMinSize().GetWidth()) << describe(*child);
+        for (const wxWindow* const other : visible)
+        {
+            EXPECT_FALSE(other->GetRect().Intersects(child->GetRect()))
+                << describe(*other) << " overlaps " << describe(*child);
+        }
+        visible.push_back(child);
+    }
+}
+
+DialogScript::DialogScript(std::function<void(wxDialog&)> dialogSteps) : steps(std::move(dialogSteps))
+{
+    Register();
+}
+
+DialogScript::~DialogScript()
+{
+    Unregister();
+    EXPECT_TRUE(ended) << "the expected dialog was not shown";
+}
+
+int DialogScript::Enter(wxDialog* dialog)
+{
+    if (shown || ended)
+        return wxID_NONE;
+    shown = dialog;
+    expectedDialog = dialog;
+    dialog->CallAfter([this] { play(); });
+    return wxID_NONE;
+}
+
+void DialogScript::Exit(wxDialog* dialog)
+{
+    if (dialog != shown)
+        return;
+    shown = nullptr;
+    ended = true;
+}
+
+void DialogScript::play()
+{
+    wxDialog& dialog = *shown;
+    EXPECT_TRUE(waitUntil([&dialog] { return dialog.IsActive(); })) << describe(dialog) << " never got the keyboard";
+    steps(dialog);
+    if (waitUntil([&dialog] { return !dialog.IsModal(); }))
+        return;
+    ADD_FAILURE() << describe(dialog) << " was left open";
+    dialog.EndModal(wxID_CANCEL);
+}
+
+int runModal(wxDialog& dialog, const std::function<void()>& steps)
+{
+    const DialogScript script([&steps](wxDialog&) { steps(); });
+    return dialog.ShowModal();
+}
+
+MessageBoxAnswer::MessageBoxAnswer(int buttonId) : button(buttonId)
+{
+    Register();
+}
+
+int MessageBoxAnswer::Enter(wxDialog* dialog)
+{
+    const auto* const box = dynamic_cast<const wxMessageDialogBase*>(dialog);
+    if (!box)
+        return wxID_NONE;
+    ++asked;
+    message = modelText(box->GetMessage());
+    return button;
+}
+
+int UnexpectedDialogs::Enter(wxDialog* dialog)
+{
+    if (std::exchange(expectedDialog, nullptr) == dialog)
+        return wxID_NONE;
+    ADD_FAILURE() << "unexpected " << describe(*dialog);
+    return wxID_CANCEL;
+}
