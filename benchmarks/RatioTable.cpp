@@ -1,10 +1,10 @@
 #include "benchmarks/RatioTable.h"
 
-#include <algorithm>
+#include "benchmarks/Measure.h"
+
 #include <array>
 #include <cstdio>
 #include <iomanip>
-#include <sstream>
 
 namespace
 {
@@ -92,7 +92,7 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs)
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
         Result result;
-        result.milliseconds = run.GetAdjustedRealTime();
+        result.milliseconds = run.counters.at(quickestCounter).value;
         if (const auto counter = run.counters.find("rss_mb"); counter != run.counters.end())
             result.residentMb = counter->second.value;
         const auto [known, first] = results.try_emplace(run.run_name.function_name, result);
@@ -112,7 +112,7 @@ void RatioTable::Finalize()
         if (work != results.end() && yardstick != results.end())
             printRow(goal, work->second, yardstick->second);
     }
-    out << "Times in milliseconds, each the quickest of the repetitions.\n";
+    out << "Times in milliseconds, each the quickest round of all repetitions.\n";
 }
 
 void RatioTable::printRow(const Goal& goal, const Result& work, const Result& yardstick)

@@ -19,14 +19,14 @@ struct Goal
     std::optional<double> residentMb{};   ///< what the counter "rss_mb" of the work may show
 };
 
-/// A benchmark function that sets the time of its iterations.
+/// A benchmark function that calls `measure`.
 using Measurement = std::function<void(benchmark::State&)>;
 
 /// Registers pairs of benchmarks and prints a table of them, one row for each goal: time of the work, time of the
 /// yardstick in the same run, their ratio, the limit, and whether it is reached.
 ///
-/// Of several repetitions the quickest one counts, for work and yardstick alike: whatever else runs on the machine
-/// only ever adds time.
+/// The quickest round of all repetitions counts, for work and yardstick alike: whatever else runs on the machine only
+/// ever adds time.
 class RatioTable : public benchmark::BenchmarkReporter
 {
 public:
