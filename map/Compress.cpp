@@ -29,7 +29,7 @@ void closeGaps(RegisterSlots& slots, int place, int last)
     for (int address = place; address <= last; ++address)
     {
         const RegisterEntry& slot = slotAt(slots, address);
-        if (!slot.used || !isHead(slot) || slot.registerCount == 0)
+        if (!slot.used || !isHead(slot))
             continue;
         const std::uint32_t length = slot.registerCount;
         moveObjectUp(slots, address, place);

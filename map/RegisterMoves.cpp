@@ -9,8 +9,9 @@ namespace
 
 /// Moves slots of one space in one direction and remembers which ones cannot be shoved.
 ///
-/// A slot is stuck when the used slots before it end at a lock or at the end of the space. Nothing that a move does
-/// frees it again: the slots that hold it back are stuck themselves. So no run is looked through twice.
+/// A slot is stuck when the used slots in its way end at a lock or at the end of the space. No shove frees it again:
+/// the slots that hold it back are stuck themselves. So no run is looked through twice. Plain moves look one place
+/// ahead and never ask.
 class SlotMover
 {
 public:
@@ -28,8 +29,7 @@ public:
         const int end = endOfRun(address);
         if (!isAddress(end) || slotAt(slots, end).locked || slotAt(slots, end).used)
         {
-            if (shoving)
-                markStuck(address, end);
+            markStuck(address, end);
             return false;
         }
         pushRun(address, end, changed);
@@ -86,6 +86,7 @@ MoveResult moveSlots(RegisterSlots& slots, std::span<const int> addresses, MoveD
     SlotMover mover(slots, direction, shoving);
     MoveResult result;
     result.positions.reserve(addresses.size());
+    result.changed.reserve(addresses.size());
     const auto moveOne = [&](int address)
     { result.positions.push_back(mover.move(address, result.changed) ? address + mover.stepLength() : address); };
 

@@ -34,6 +34,7 @@ private:
 std::string replaceAll(std::string_view text, std::string_view find, std::string_view replacement)
 {
     std::string result;
+    result.reserve(text.size() + replacement.size());
     if (find.empty())
         return result.append(text);
     std::size_t done = 0;
@@ -48,8 +49,6 @@ std::string replaceAll(std::string_view text, std::string_view find, std::string
 void replaceInTagnames(RegisterSlots& slots, std::span<const int> addresses, std::string_view find,
                        std::string_view replacement)
 {
-    if (find.empty())
-        return;
     Renamer renamer(find, replacement);
     for (const int address : addresses)
     {

@@ -158,6 +158,7 @@ private:
         std::vector<int> rows;
         const int first = randomAddress();
         const int count = chance.oneOf({0, 1, 1, 2, 5, 12, 40});
+        rows.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
             rows.push_back(chance.happens(80) && isAddress(first) ? std::min(first + i, lastAddress) : randomAddress());
         if (chance.happens(70))

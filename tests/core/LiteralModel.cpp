@@ -304,7 +304,7 @@ void LiteralModel::replace(const std::vector<int>& addresses, const std::string&
         {
             if (name.compare(i, find.size(), find) == 0)
             {
-                name = name.substr(0, i) + replacement + name.substr(i + find.size());
+                name.replace(i, find.size(), replacement);
                 i += replacement.size();
             }
             else

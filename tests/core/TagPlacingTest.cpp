@@ -35,6 +35,7 @@ std::vector<RegisterEntry> copyOf(const std::vector<TagRecord>& tags, const Defa
 std::vector<std::uint32_t> placesOf(const std::vector<RegisterEntry>& registers)
 {
     std::vector<std::uint32_t> places;
+    places.reserve(registers.size());
     for (const RegisterEntry& entry : registers)
         places.push_back(entry.address);
     return places;
