@@ -1,0 +1,66 @@
+#pragma once
+
+#include "tests/core/TempFolder.h"
+#include "ui/MainFrame.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class wxBitmapButton;
+
+/// The main window as a test sees it: its controls in reach, standing on files of the test's own.
+class EditorWindow : public MainFrame
+{
+public:
+    explicit EditorWindow(const StartupValues& startup);
+
+    using MainFrameBase::groupFilters;
+    using MainFrameBase::mapGrid;
+    using MainFrameBase::sourceFilter;
+    using MainFrameBase::sourceGrid;
+    using MainFrameBase::sourceTree;
+    using MainFrameBase::statusLabel;
+    using MainFrameBase::viewLabel;
+
+    /// The button with that tooltip; where two have it, the one on the map's side.
+    wxBitmapButton* button(const wxString& tooltip) const;
+
+    /// The text of a cell of the map grid.
+    std::string cell(int row, int column) const;
+
+    /// The addresses in the Address column, as shown.
+    std::vector<std::string> shownRows() const;
+
+    /// The rows selected in the map grid.
+    std::vector<int> selectedMapRows() const;
+
+    /// Selects one row of the map grid by clicking on it, and waits until it is.
+    void clickMapRow(int row);
+
+    /// Gives the keyboard to the map grid and waits until it has it.
+    void focusMapGrid();
+};
+
+/// A tag database and a map definition file in a folder of their own.
+class PlantFiles
+{
+public:
+    /// @param definition  text of the definition file
+    explicit PlantFiles(std::string_view definition);
+
+    /// The command line that names both files.
+    StartupValues startup(long swapFlags = 0) const;
+
+    /// The bytes of the definition file.
+    std::string definition() const;
+
+private:
+    TempFolder folder;
+};
+
+/// Opens the main window, shown and with the keyboard in the map grid.
+EditorWindow* openEditor(const StartupValues& startup);
+
+/// Waits until a window is closed and gone.
+[[nodiscard]] bool waitUntilGone(const wxWindow* window);
