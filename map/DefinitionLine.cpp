@@ -14,23 +14,16 @@ bool contains(std::string_view text, std::string_view part)
     return text.find(part) != std::string_view::npos;
 }
 
-/// The address of the object's head as the line has it, negative ones included.
-std::int32_t signedStart(const DefinitionObject& object)
-{
-    return static_cast<std::int32_t>(object.values.startAddress);
-}
-
 } // namespace
 
 int DefinitionObject::firstAddress() const
 {
-    return std::max(signedStart(*this), 0);
+    return std::max(start, 0);
 }
 
 int DefinitionObject::endAddress() const
 {
-    return static_cast<int>(
-        std::min<std::int64_t>(std::int64_t{signedStart(*this)} + values.registerCount, registersPerSpace));
+    return static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
 }
 
 std::optional<DefinitionObject> describedObject(const DefinitionFields& fields)
@@ -45,19 +38,31 @@ std::optional<DefinitionObject> describedObject(const DefinitionFields& fields)
 
     DefinitionObject object;
     object.space = *space;
-    RegisterEntry& values = object.values;
-    values.used = true;
-    values.locked = fields.lock.starts_with("LOCKED");
-    values.startAddress = static_cast<std::uint32_t>(parseInteger(fields.address));
-    values.type = typeFromName(fields.type);
-    values.registerCount = static_cast<std::uint32_t>(count);
-    values.SwapBytes = contains(fields.order, "BYTES");
-    values.SwapWords = contains(fields.order, "WORDS");
-    values.SwapLongs = contains(fields.order, "LONGS");
-    values.write = write;
-    values.tagname = InternedText(fields.tagname.substr(0, fields.tagname.size() - (write ? writeSuffix.size() : 0)));
-    values.description = InternedText(fields.description.substr(0, fields.description.find('{')));
+    object.type = typeFromName(fields.type);
+    object.locked = fields.lock.starts_with("LOCKED");
+    object.write = write;
+    object.SwapBytes = contains(fields.order, "BYTES");
+    object.SwapWords = contains(fields.order, "WORDS");
+    object.SwapLongs = contains(fields.order, "LONGS");
+    object.start = parseInteger(fields.address);
+    object.count = count;
+    object.tagname = fields.tagname.substr(0, fields.tagname.size() - (write ? writeSuffix.size() : 0));
+    object.description = fields.description.substr(0, fields.description.find('{'));
     return object;
+}
+
+RegisterEntry slotValues(const DefinitionObject& object)
+{
+    RegisterEntry values;
+    values.used = true;
+    values.locked = object.locked;
+    values.startAddress = static_cast<std::uint32_t>(object.start);
+    values.type = object.type;
+    values.registerCount = static_cast<std::uint32_t>(object.count);
+    values.write = object.write;
+    values.tagname = InternedText(object.tagname);
+    values.description = InternedText(object.description);
+    return values;
 }
 
 void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values)
@@ -78,13 +83,13 @@ void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields)
     const std::optional<DefinitionObject> object = describedObject(fields);
     if (!object)
         return;
-    const RegisterEntry& values = object->values;
+    const RegisterEntry values = slotValues(*object);
     for (int address = object->firstAddress(); address < object->endAddress(); ++address)
     {
         RegisterEntry& slot = map.slots(object->space)[static_cast<std::size_t>(address)];
         overwriteSlot(slot, address, values);
-        slot.SwapBytes |= values.SwapBytes;
-        slot.SwapWords |= values.SwapWords;
-        slot.SwapLongs |= values.SwapLongs;
+        slot.SwapBytes |= object->SwapBytes;
+        slot.SwapWords |= object->SwapWords;
+        slot.SwapLongs |= object->SwapLongs;
     }
 }

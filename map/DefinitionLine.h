@@ -2,6 +2,7 @@
 
 #include "map/RegisterMap.h"
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -21,11 +22,20 @@ struct DefinitionFields
     std::string_view status;      ///< written for people, never read
 };
 
-/// The object that a definition line describes.
+/// The object that a definition line describes; its texts are parts of the line.
 struct DefinitionObject
 {
     RegisterSpace space = RegisterSpace::Coil;
-    RegisterEntry values; ///< of every slot but for `address`; the start address may lie outside the space
+    DataType type = DataType::Int16;
+    bool locked = false;
+    bool SwapBytes = false; ///< set where the line names it, else left as the slots have it; the other two alike
+    bool SwapWords = false;
+    bool SwapLongs = false;
+    bool write = false;
+    std::int32_t start = 0; ///< address of the head, inside the space or not
+    std::int32_t count = 0; ///< registers, 1 or more
+    std::string_view tagname;
+    std::string_view description;
 
     /// The first register of the object that lies in the space; not below `endAddress` when none does.
     int firstAddress() const;
@@ -39,7 +49,10 @@ struct DefinitionObject
 ///         ".1", or its object has no registers
 std::optional<DefinitionObject> describedObject(const DefinitionFields& fields);
 
-/// Gives a slot what its object's line says, except for the byte-order flags and what validation finds out.
+/// What the slots of an object have in common, without the byte-order flags.
+RegisterEntry slotValues(const DefinitionObject& object);
+
+/// Gives a slot the values of its object; its byte-order flags and what validation found out stay.
 /// @param address  of the slot, 0..65535
 void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values);
 

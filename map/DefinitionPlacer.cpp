@@ -3,10 +3,21 @@
 #include <algorithm>
 #include <ranges>
 
+namespace
+{
+
+/// As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight.
+constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
+
+} // namespace
+
+DefinitionPlacer::DefinitionPlacer(RegisterMap& target) : map(target)
+{
+    waiting.reserve(mostWaiting);
+}
+
 void DefinitionPlacer::add(const DefinitionObject& object)
 {
-    // As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight.
-    constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
     waiting.push_back(object);
     if (waiting.size() == mostWaiting)
         placeAll();
@@ -22,17 +33,17 @@ void DefinitionPlacer::placeAll()
 
 void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
 {
-    const RegisterEntry& values = object.values;
+    const RegisterEntry values = slotValues(object);
     const int first = object.firstAddress();
     const int end = object.endAddress();
     RegisterSlots& slots = map.slots(object.space);
     const auto slotAt = [&](int address) -> RegisterEntry& { return slots[static_cast<std::size_t>(address)]; };
 
     left.slots.visit(first, end, [&](int address) { overwriteSlot(slotAt(address), address, values); });
-    if (values.SwapBytes)
+    if (object.SwapBytes)
         left.swapBytes.visit(first, end, [&](int address) { slotAt(address).SwapBytes = true; });
-    if (values.SwapWords)
+    if (object.SwapWords)
         left.swapWords.visit(first, end, [&](int address) { slotAt(address).SwapWords = true; });
-    if (values.SwapLongs)
+    if (object.SwapLongs)
         left.swapLongs.visit(first, end, [&](int address) { slotAt(address).SwapLongs = true; });
 }

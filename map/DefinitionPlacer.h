@@ -14,9 +14,11 @@ class DefinitionPlacer
 {
 public:
     /// @param target  the map that the objects go to
-    explicit DefinitionPlacer(RegisterMap& target) : map(target) {}
+    explicit DefinitionPlacer(RegisterMap& target);
 
-    /// Takes the next object. The map shows it after `placeAll` at the latest.
+    /// Takes the next object, whose texts have to last until it is placed.
+    ///
+    /// The map shows it after `placeAll` at the latest.
     void add(const DefinitionObject& object);
 
     /// Places the objects taken so far.

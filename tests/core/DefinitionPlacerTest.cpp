@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <deque>
 #include <string>
 
 namespace
@@ -21,9 +21,13 @@ protected:
             placer.add(*object);
     }
 
+    /// A text that lasts until the objects are placed.
+    std::string_view lasting(std::string text) { return texts.emplace_back(std::move(text)); }
+
     void expectSame()
     {
         placer.placeAll();
+        texts.clear();
         for (const RegisterSpace space : allSpaces)
         {
             for (std::size_t address = 0; address < registersPerSpace; ++address)
@@ -54,6 +58,7 @@ protected:
         }
     }
 
+    std::deque<std::string> texts;
     RegisterMap oneByOne;
     RegisterMap together;
     DefinitionPlacer placer{together};
@@ -107,8 +112,8 @@ TEST_F(DefinitionPlacing, AnyLinesGiveTheSlotsOfPlacingThemOneByOne)
                                             chance.oneOf({65535, 65536, 2147483647, 1})});
             const std::string addressText = std::to_string(address);
             const std::string countText = std::to_string(count);
-            const std::string tagname = "T" + std::to_string(line) + chance.oneOf({"", "", ".1", ".2"});
-            const std::string description = std::to_string(chance.pick(0, 9));
+            const auto tagname = lasting("T" + std::to_string(line) + chance.oneOf({"", "", ".1", ".2"}));
+            const auto description = lasting(std::to_string(chance.pick(0, 9)));
             add({chance.oneOf({"HOLDING", "HOLDING", "COIL", "INPUT", "STATUS", "NOWHERE"}), addressText,
                  chance.oneOf({"NONE", "NONE", "BYTES", "WORDS", "LONGS", "BYTES+LONGS", "BYTES+WORDS+LONGS"}),
                  chance.oneOf({"INT16", "DOUBLE", "STRING", "STRING"}), tagname, description, countText,
@@ -126,7 +131,7 @@ TEST_F(DefinitionPlacing, MoreObjectsThanSlotsKeepTheirOrder)
     for (int line = 0; line < 600'000; ++line)
     {
         const std::string address = std::to_string(chance.pick(-5, 65540));
-        const std::string tagname = std::to_string(line % 1000);
+        const auto tagname = lasting(std::to_string(line % 1000));
         add({chance.oneOf({"HOLDING", "COIL", "INPUT", "STATUS"}), address, line % 5000 == 0 ? "WORDS" : "NONE",
              chance.oneOf({"INT16", "INT32", "DOUBLE"}), tagname, "", "", "UNLOCKED", ""});
     }
