@@ -1,0 +1,90 @@
+#pragma once
+
+#include "tests/e2e/Control.h"
+#include "tests/e2e/GridOnScreen.h"
+#include "tests/e2e/PrivateScreen.h"
+#include "tests/e2e/Process.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// Whether the program finds the suite's key file.
+enum class Installation
+{
+    Present,
+    Missing
+};
+
+/// The program, running, with what a person sees of it and does to it.
+///
+/// Whatever has to come is waited for; when it does not, std::runtime_error says what was missing.
+class ProgramUnderTest
+{
+public:
+    /// Starts it with a home and settings of its own.
+    /// @param home  an existing folder that takes them
+    ProgramUnderTest(PrivateScreen& screen, const std::filesystem::path& home,
+                     const std::vector<std::string>& arguments, Installation installation = Installation::Present);
+
+    /// Waits until the main window is there, laid out, and has counted its errors for the first time.
+    void waitForMainWindow();
+
+    /// Whether the main window is shown at this moment.
+    bool showsMainWindow() const;
+
+    /// Waits for a window that has the keyboard.
+    /// @param title  its whole title
+    Control waitForWindow(const std::string& title);
+
+    /// Waits for a message box.
+    /// @param text  the whole of what it says
+    Control waitForMessage(const std::string& text);
+
+    /// Waits until no window with that title is shown.
+    void waitUntilClosed(const std::string& title);
+
+    /// Clicks a button of a window.
+    /// @param name  its text
+    void clickButton(const Control& window, const std::string& name);
+
+    /// Clicks a picture button of the main window.
+    /// @param tooltip  the first one that has it, from left to right, is meant
+    void clickTool(const std::string& tooltip);
+
+    /// Opens the pop-up menu of a grid's row and clicks one of its entries.
+    void chooseFromMenu(GridOnScreen grid, int row, const std::string& entry);
+
+    /// Waits until the status line says something.
+    void waitForStatus(const std::string& text);
+
+    /// Waits until the name of a view mode is shown.
+    void waitForView(const std::string& label);
+
+    GridOnScreen tagGrid();
+    GridOnScreen mapGrid();
+
+    /// The text field for the filter.
+    Control filterField();
+
+    void click(const Control& control);
+
+    /// Waits until it has ended.
+    /// @return its exit code
+    int waitForExit();
+
+    /// What it has written to stderr so far.
+    std::string errorOutput() const;
+
+private:
+    std::optional<Control> activeWindow() const;
+    Control waitForControl(const std::string& what, const Control::Test& fits);
+    GridOnScreen gridBelow(const std::string& columnTitle);
+
+    PrivateScreen& screen;
+    std::filesystem::path errorFile;
+    Process process;
+    std::shared_ptr<AccessibilityBus> bus;
+};

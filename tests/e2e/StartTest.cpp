@@ -1,0 +1,73 @@
+// How the program starts: with and without its installation, files and options.
+
+#include "tests/e2e/EndToEnd.h"
+
+namespace
+{
+
+using Start = EndToEnd;
+
+/// The two descriptions that the usage text carries, with the wording that users know.
+void expectUsage(const std::string& text)
+{
+    EXPECT_NE(text.find("Path to of the database JSON file"), std::string::npos) << text;
+    EXPECT_NE(text.find("Path to the modbus defintion file"), std::string::npos) << text;
+    EXPECT_NE(text.find("swap flags = (SwapBytes << 1) | (SwapWords << 2) | (SwapLongs << 3)"), std::string::npos)
+        << text;
+}
+
+constexpr const char* noDatabase = "Input file not found\n";
+
+} // namespace
+
+TEST_F(Start, WithoutInstallationOnlyTheAlertIsShownAndTheExitCodeIsZero)
+{
+    ProgramUnderTest& program = start({}, Installation::Missing);
+    const Control alert = program.waitForMessage("Cannot locate registry entries required by this program\n\n"
+                                                 "This program cannot continue and will now terminate");
+    EXPECT_EQ(screen.activeTitle(), "Alert - Program cannot continue");
+    EXPECT_FALSE(program.showsMainWindow());
+    program.clickButton(alert, "OK");
+    EXPECT_EQ(program.waitForExit(), 0);
+}
+
+TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnEmptyMap)
+{
+    ProgramUnderTest& program = start({});
+    program.clickButton(program.waitForMessage(noDatabase), "OK");
+    program.waitForMainWindow();
+    program.waitForStatus("  No errors");
+    EXPECT_EQ(program.mapGrid().filledRows(), 0);
+    EXPECT_EQ(program.tagGrid().filledRows(), 0);
+    leaveWithoutQuestion();
+    EXPECT_EQ(program.errorOutput(), "");
+}
+
+/// A start with a command line that cannot be used.
+class UnusableCommandLine : public EndToEnd
+{
+protected:
+    void expectUsageAndWindow(const std::vector<std::string>& arguments)
+    {
+        ProgramUnderTest& program = start(arguments);
+        program.clickButton(program.waitForMessage(noDatabase), "OK");
+        program.waitForMainWindow();
+        expectUsage(program.errorOutput());
+        leaveWithoutQuestion();
+    }
+};
+
+TEST_F(UnusableCommandLine, AnUnknownOptionShowsTheUsageAndTheWindowOpens)
+{
+    expectUsageAndWindow({"--nonsense"});
+}
+
+TEST_F(UnusableCommandLine, ASwapValueThatIsNoNumberShowsTheUsageAndTheWindowOpens)
+{
+    expectUsageAndWindow({"--swap", "words"});
+}
+
+TEST_F(UnusableCommandLine, AskingForHelpShowsTheUsageAndTheWindowOpens)
+{
+    expectUsageAndWindow({"--help"});
+}
