@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>
+#include <wx/panel.h>
 #include <wx/uiaction.h>
 
 #include <fstream>
@@ -55,6 +56,13 @@ wxBitmapButton* EditorWindow::button(const wxString& tooltip) const
     if (found.empty())
         throw std::invalid_argument("no button \"" + modelText(tooltip) + "\"");
     return found.back();
+}
+
+wxBitmapButton* EditorWindow::sourceCopyButton() const
+{
+    std::vector<wxBitmapButton*> found;
+    collectButtons(*databaseHeader, "Copy - ctrl c", found);
+    return found.front();
 }
 
 std::string EditorWindow::cell(int row, int column) const

@@ -26,6 +26,9 @@ public:
     /// The button with that tooltip; where two have it, the one on the map's side.
     wxBitmapButton* button(const wxString& tooltip) const;
 
+    /// The copy button beside the title of the tag grid.
+    wxBitmapButton* sourceCopyButton() const;
+
     /// The text of a cell of the map grid.
     std::string cell(int row, int column) const;
 

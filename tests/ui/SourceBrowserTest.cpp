@@ -1,0 +1,184 @@
+#include "tests/ui/EditorWindow.h"
+#include "tests/ui/MenuScript.h"
+#include "tests/ui/UiTest.h"
+
+#include "source/GridSelection.h"
+#include "source/ToolkitText.h"
+
+#include <gtest/gtest.h>
+#include <wx/bmpbuttn.h>
+#include <wx/checkbox.h>
+#include <wx/grid.h>
+#include <wx/scrolwin.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/treectrl.h>
+
+namespace
+{
+
+using Names = std::vector<std::string>;
+
+Names shownTags(const EditorWindow& editor)
+{
+    Names names;
+    for (int row = 0; row < editor.sourceGrid->GetNumberRows(); ++row)
+        names.push_back(modelText(editor.sourceGrid->GetCellValue(row, 0)));
+    return names;
+}
+
+Names clipboardNames(EditorWindow& editor)
+{
+    Names names;
+    for (const RegisterEntry& entry : editor.registerMap().clipboard)
+        names.emplace_back(entry.tagname.view());
+    return names;
+}
+
+wxCheckBox* groupBox(const EditorWindow& editor, const wxString& flag)
+{
+    for (wxWindow* const child : editor.groupFilters->GetChildren())
+    {
+        auto* const box = dynamic_cast<wxCheckBox*>(child);
+        if (box && box->GetLabelText() == flag)
+            return box;
+    }
+    return nullptr;
+}
+
+/// Gives the keyboard to the tag grid.
+void focusTagGrid(const EditorWindow& editor)
+{
+    editor.sourceGrid->SetFocus();
+    EXPECT_TRUE(waitUntil([&] { return editor.sourceGrid->GetGridWindow()->HasFocus(); }));
+}
+
+void clickNode(const EditorWindow& editor, const wxTreeItemId& node)
+{
+    editor.sourceTree->SelectItem(node);
+}
+
+const Names allTags{"PUMP_RUN", "PUMP_SPEED", "PUMP_SPEED_SP", "PUMP_NAME", "TANK_LEVEL", "TANK_HIGH"};
+
+} // namespace
+
+TEST(SourceBrowser, ShowsAllTagsAtFirst)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    EXPECT_EQ(shownTags(editor), allTags);
+    EXPECT_EQ(editor.sourceGrid->GetColSize(5), 0);
+    EXPECT_EQ(editor.sourceGrid->GetCellValue(4, 5), "4");
+}
+
+TEST(SourceBrowser, RowsSayTypeSizeFlagsAndDescriptionInTheirColours)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    const wxGrid& grid = *editor.sourceGrid;
+    EXPECT_EQ(grid.GetCellValue(0, 1), "Integer");
+    EXPECT_EQ(grid.GetCellTextColour(0, 1), wxColour(128, 128, 0));
+    EXPECT_EQ(grid.GetCellValue(1, 1), "Float");
+    EXPECT_EQ(grid.GetCellTextColour(1, 1), wxColour(68, 128, 128));
+    EXPECT_EQ(grid.GetCellValue(3, 1), "String");
+    EXPECT_EQ(grid.GetCellTextColour(3, 1), wxColour(0, 128, 0));
+    EXPECT_EQ(grid.GetCellValue(3, 2), "6");
+    EXPECT_EQ(grid.GetCellValue(0, 3), "");
+    EXPECT_EQ(grid.GetCellValue(5, 3), "ALM-SET");
+    EXPECT_EQ(grid.GetCellTextColour(5, 3), wxColour(255, 217, 0));
+    EXPECT_EQ(grid.GetCellValue(5, 4), "Level high");
+}
+
+TEST(SourceBrowser, TypingNarrowsByNameAndDescriptionInAnyLetterCase)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    typeOver(*editor.sourceFilter, "speed");
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"PUMP_SPEED", "PUMP_SPEED_SP"}); }));
+    typeOver(*editor.sourceFilter, "MAKER");
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"PUMP_NAME"}); }));
+    typeOver(*editor.sourceFilter, "p?mp_s*sp");
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"PUMP_SPEED_SP"}); }));
+    typeOver(*editor.sourceFilter, "nothing");
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor).empty(); }));
+}
+
+TEST(SourceBrowser, CheckedGroupsHaveToBeSharedAll)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    ASSERT_NE(groupBox(editor, "SET"), nullptr);
+    EXPECT_FALSE(groupBox(editor, "SET")->IsChecked());
+    clickOn(*groupBox(editor, "SET"));
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"PUMP_SPEED_SP", "TANK_HIGH"}); }));
+    clickOn(*groupBox(editor, "ALM"));
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"TANK_HIGH"}); }));
+    clickOn(*groupBox(editor, "SET"));
+    clickOn(*groupBox(editor, "ALM"));
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == allTags; }));
+}
+
+TEST(SourceBrowser, TreeNodeChoosesTheBeginningOfTheNames)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    wxTreeItemIdValue cookie = nullptr;
+    const wxTreeItemId root = editor.sourceTree->GetRootItem();
+    const wxTreeItemId pump = editor.sourceTree->GetFirstChild(root, cookie);
+    const wxTreeItemId tank = editor.sourceTree->GetNextChild(root, cookie);
+    EXPECT_EQ(editor.sourceTree->GetItemText(tank), "Tank");
+    EXPECT_TRUE(editor.sourceTree->IsExpanded(root));
+    clickNode(editor, tank);
+    EXPECT_EQ(shownTags(editor), Names({"TANK_LEVEL", "TANK_HIGH"}));
+    clickNode(editor, pump);
+    EXPECT_EQ(shownTags(editor).size(), 4U);
+    clickNode(editor, root);
+    EXPECT_EQ(shownTags(editor), allTags);
+}
+
+TEST(SourceBrowser, ControlAAndControlCCopyEveryShownTag)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup(6));
+    focusTagGrid(editor);
+    pressKey('A', wxMOD_CONTROL);
+    EXPECT_TRUE(waitUntil([&] { return selectedRows(*editor.sourceGrid).size() == allTags.size(); }));
+    pressKey('C', wxMOD_CONTROL);
+    EXPECT_TRUE(waitUntil([&] { return editor.registerMap().clipboard.size() == 11; }));
+    EXPECT_EQ(clipboardNames(editor),
+              Names({"PUMP_RUN", "PUMP_SPEED", "PUMP_SPEED", "PUMP_SPEED_SP", "PUMP_SPEED_SP", "PUMP_NAME", "PUMP_NAME",
+                     "PUMP_NAME", "TANK_LEVEL", "TANK_LEVEL", "TANK_HIGH"}));
+    const RegisterEntry& speed = editor.registerMap().clipboard[1];
+    EXPECT_TRUE(speed.SwapBytes && speed.SwapWords && !speed.SwapLongs);
+}
+
+TEST(SourceBrowser, CopyButtonCopiesTheSelectedTags)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.sourceGrid->SelectRow(5);
+    editor.sourceGrid->SelectRow(0, true);
+    clickOn(*editor.sourceCopyButton());
+    EXPECT_TRUE(waitUntil([&] { return clipboardNames(editor) == Names({"PUMP_RUN", "TANK_HIGH"}); }));
+}
+
+TEST(SourceBrowser, MenuOfTheTagGridHasOneEntryThatCopies)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.sourceGrid->SelectRow(0);
+    const MenuScript menu(editor, "Copy");
+    rightClickOn(*editor.sourceGrid->GetGridWindow(), 100, 100);
+    EXPECT_TRUE(waitUntil([&] { return clipboardNames(editor) == Names({"PUMP_RUN"}); }));
+    EXPECT_EQ(menu.shownEntries(), Names({"6012 Copy|Ctrl+C"}));
+}
+
+TEST(SourceBrowser, CopyingWithoutASelectionEmptiesTheClipboard)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.registerMap().clipboard.push_back(freeSlot(0));
+    focusTagGrid(editor);
+    pressKey('C', wxMOD_CONTROL);
+    EXPECT_TRUE(waitUntil([&] { return editor.registerMap().clipboard.empty(); }));
+}
