@@ -69,6 +69,13 @@ void cutRegisters(RegisterMap& map, std::span<const int> addresses)
     eraseRegisters(map, addresses);
 }
 
+std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedAddresses)
+{
+    if (!selectedAddresses.empty())
+        return selectedAddresses.front();
+    return shownRows == 0 ? std::optional(0) : std::nullopt;
+}
+
 PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
 {
     if (map.clipboard.empty())

@@ -2,6 +2,7 @@
 
 #include "map/RegisterMap.h"
 
+#include <optional>
 #include <span>
 
 /// Copying, cutting, deleting, pasting and appending registers of the current space. The clipboard is the map's own.
@@ -27,6 +28,12 @@ void eraseRegisters(RegisterMap& map, std::span<const int> addresses);
 
 /// Copies the listed slots, then erases them; locked ones are copied and stay.
 void cutRegisters(RegisterMap& map, std::span<const int> addresses);
+
+/// Where pasting and appending go to: the first selected row, or address 0 when no row is shown at all.
+/// @param shownRows          rows of the grid
+/// @param selectedAddresses  addresses of the selected rows, in row order
+/// @return nothing when rows are shown and none is selected
+std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedAddresses);
 
 /// Inserts the clipboard in front of the object to which the slot at `rowAddress` says that it belongs.
 ///

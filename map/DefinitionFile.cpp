@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstdint>
+#include <new>
 
 namespace
 {
@@ -118,11 +119,18 @@ bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, con
     std::optional<std::string> bytes = readFile(path);
     if (!bytes)
         return false;
-    const std::string text = decodeText(std::move(*bytes));
-    DefinitionPlacer placer(map);
-    forEachLine(text, [&](std::string_view line) { readLine(line, placer, tags); });
-    placer.placeAll();
-    return true;
+    try
+    {
+        const std::string text = decodeText(std::move(*bytes));
+        DefinitionPlacer placer(map);
+        forEachLine(text, [&](std::string_view line) { readLine(line, placer, tags); });
+        placer.placeAll();
+        return true;
+    }
+    catch (const std::bad_alloc&) // a file too large for the memory
+    {
+        return false;
+    }
 }
 
 std::string definitionText(const RegisterMap& map)

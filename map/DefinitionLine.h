@@ -56,8 +56,8 @@ RegisterEntry slotValues(const DefinitionObject& object);
 /// @param address  of the slot, 0..65535
 void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values);
 
-/// Places the object that one line describes over whatever its slots hold, locked or not; a line to be dropped places
-/// nothing.
+/// Places the object of a single line, by which placing a whole file is measured, over whatever its slots hold, locked
+/// or not; a line to be dropped places nothing.
 ///
 /// Registers outside 0..65535 are left out while the full count is kept. Byte-order flags that the line does not name
 /// stay as the slot had them.

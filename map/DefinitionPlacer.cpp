@@ -1,5 +1,7 @@
 #include "map/DefinitionPlacer.h"
 
+#include "map/SlotAccess.h"
+
 #include <algorithm>
 #include <ranges>
 
@@ -37,13 +39,11 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
     const int first = object.firstAddress();
     const int end = object.endAddress();
     RegisterSlots& slots = map.slots(object.space);
-    const auto slotAt = [&](int address) -> RegisterEntry& { return slots[static_cast<std::size_t>(address)]; };
-
-    left.slots.visit(first, end, [&](int address) { overwriteSlot(slotAt(address), address, values); });
+    left.slots.visit(first, end, [&](int address) { overwriteSlot(slotAt(slots, address), address, values); });
     if (object.SwapBytes)
-        left.swapBytes.visit(first, end, [&](int address) { slotAt(address).SwapBytes = true; });
+        left.swapBytes.visit(first, end, [&](int address) { slotAt(slots, address).SwapBytes = true; });
     if (object.SwapWords)
-        left.swapWords.visit(first, end, [&](int address) { slotAt(address).SwapWords = true; });
+        left.swapWords.visit(first, end, [&](int address) { slotAt(slots, address).SwapWords = true; });
     if (object.SwapLongs)
-        left.swapLongs.visit(first, end, [&](int address) { slotAt(address).SwapLongs = true; });
+        left.swapLongs.visit(first, end, [&](int address) { slotAt(slots, address).SwapLongs = true; });
 }

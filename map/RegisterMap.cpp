@@ -1,5 +1,7 @@
 #include "map/RegisterMap.h"
 
+#include "map/SlotAccess.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -8,11 +10,6 @@ namespace
 
 /// Copied whole and then addressed: building each slot field by field takes seven times as long.
 constexpr RegisterEntry anyFreeSlot = freeSlot(0);
-
-bool isAddress(int address)
-{
-    return address >= 0 && address <= lastAddress;
-}
 
 } // namespace
 

@@ -18,15 +18,8 @@
 namespace
 {
 
-/// Groups that get a check box; later ones are listed in the FLAGS column only.
-constexpr std::size_t mostGroupBoxes = 32;
-
 /// Pixels between a check box or description and its neighbours.
 constexpr int groupBorder = 5;
-
-const wxColour flagColour(255, 217, 0);
-const wxColour descriptionColour(224, 224, 224);
-const wxColour groupBackground(32, 32, 32);
 
 } // namespace
 
@@ -46,20 +39,20 @@ void SourceBrowser::showDatabase()
 void SourceBrowser::createGroupFilters()
 {
     const int border = controls.groupArea.FromDIP(groupBorder);
-    const std::size_t count = std::min(database.groups.size(), mostGroupBoxes);
+    const std::size_t count = std::min(database.groups.size(), filterableGroups);
     for (const TagGroup& group : std::span(database.groups).first(count))
     {
         auto* const box =
             new wxCheckBox(&controls.groupArea, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.flag)));
-        box->SetForegroundColour(flagColour);
-        box->SetBackgroundColour(groupBackground);
+        box->SetForegroundColour(controls.groupLook.flag);
+        box->SetBackgroundColour(controls.groupLook.background);
         groupBoxes.push_back(box);
         controls.groupSizer.Add(box, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxTOP, border);
 
         auto* const text = new wxStaticText(&controls.groupArea, wxID_ANY, wxString());
         text->SetLabelText(toolkitText(group.description));
-        text->SetForegroundColour(descriptionColour);
-        text->SetBackgroundColour(groupBackground);
+        text->SetForegroundColour(controls.groupLook.description);
+        text->SetBackgroundColour(controls.groupLook.background);
         controls.groupSizer.Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT | wxTOP, border);
     }
     controls.groupArea.FitInside();

@@ -3,6 +3,8 @@
 #include "source/TagDatabase.h"
 #include "source/TagFilter.h"
 
+#include <wx/colour.h>
+
 #include <string>
 #include <vector>
 
@@ -20,6 +22,14 @@ class wxWindow;
 class SourceBrowser
 {
 public:
+    /// Colours of a group's check box and description.
+    struct GroupLook
+    {
+        wxColour flag;
+        wxColour description;
+        wxColour background;
+    };
+
     /// The controls that the browser fills and reads; they outlive it.
     struct Controls
     {
@@ -28,6 +38,7 @@ public:
         wxTextCtrl& filter;
         wxWindow& groupArea;
         wxFlexGridSizer& groupSizer;
+        GroupLook groupLook;
     };
 
     /// @param tagDatabase  empty until it is loaded; outlives the browser

@@ -1,6 +1,7 @@
 #include "source/StrictJson.h"
 
 #include "source/JsonNumber.h"
+#include "text/Characters.h"
 
 #include <algorithm>
 #include <array>
@@ -8,11 +9,6 @@
 
 namespace
 {
-
-bool isBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 /// True for what ends a number or a literal.
 bool endsWord(char c)

@@ -2,6 +2,7 @@
 
 #include "source/TagTable.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,6 +15,9 @@ struct TagGroup
     std::string description; ///< what the group is, in words
     std::uint32_t mask = 0;  ///< bits that mark a member
 };
+
+/// Groups that tags can be filtered by; later ones are listed in the FLAGS column only.
+constexpr std::size_t filterableGroups = 32;
 
 /// One node of the structure tree, under which tags are found by the beginning of their names.
 struct StructureNode

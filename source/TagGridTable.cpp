@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr std::array<const char*, 6> labels{"Name", "Type", "Size", "Flags", "Description", "DbIndex"};
+constexpr std::array<const char*, tagColumnCount> labels{"Name", "Type", "Size", "Flags", "Description", "DbIndex"};
 
 } // namespace
 
@@ -42,6 +42,6 @@ wxString TagGridTable::GetColLabelValue(int column)
 
 wxGridCellAttr* TagGridTable::GetAttr(int row, int column, wxGridCellAttr::wxAttrKind)
 {
-    const bool centred = column >= 1 && column <= 3;
+    const bool centred = column >= static_cast<int>(TagColumn::Type) && column <= static_cast<int>(TagColumn::Flags);
     return styles.share(tagCell(database, tagOf(row), column).colour, centred ? wxALIGN_CENTRE : wxALIGN_LEFT);
 }

@@ -1,15 +1,12 @@
 #include "text/Integers.h"
 
+#include "text/Characters.h"
+
 #include <algorithm>
 #include <limits>
 
 namespace
 {
-
-bool isBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 std::string_view withoutLeadingBlanks(std::string_view text)
 {

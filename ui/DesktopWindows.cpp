@@ -1,6 +1,7 @@
 #include "ui/Desktop.h"
 
 #include <wx/textctrl.h>
+#include <wx/utils.h>
 
 namespace desktop
 {
@@ -12,11 +13,12 @@ void preferDark()
 
 void keepFocusOnClick(wxWindow& control)
 {
-    // Buttons of this system take the focus with the press; it is handed back with the release.
+    // Buttons of this system take the focus when they are pressed; the Tab key may give it to them.
     control.Bind(wxEVT_SET_FOCUS,
                  [](wxFocusEvent& event)
                  {
-                     if (wxWindow* const before = event.GetWindow())
+                     wxWindow* const before = event.GetWindow();
+                     if (before && wxGetMouseState().LeftIsDown())
                          before->SetFocus();
                      event.Skip();
                  });

@@ -9,6 +9,8 @@
 #include "ui/ImageButton.h"
 #include "ui/NamedImages.h"
 #include "ui/Paths.h"
+#include "ui/SpaceButtons.h"
+#include "ui/Theme.h"
 
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
@@ -32,20 +34,6 @@ constexpr int narrowGap = 7;
 
 /// Pixels around a button.
 constexpr int buttonBorder = 3;
-
-/// The space buttons, left to right.
-struct SpaceButton
-{
-    RegisterSpace space;
-    const char* image;
-    const char* tooltip;
-};
-
-constexpr std::array<SpaceButton, spaceCount> spaceButtonOrder{
-    {{RegisterSpace::Status, "png_tool_status", "Show Status Registers"},
-     {RegisterSpace::Coil, "png_tool_coil", "Show Coil Registers"},
-     {RegisterSpace::Input, "png_tool_input", "Show Input Registers"},
-     {RegisterSpace::Holding, "png_tool_holding", "Show Holding Registers"}}};
 
 } // namespace
 
@@ -94,9 +82,11 @@ void MainFrame::createSourceBrowser()
 {
     auto* const table = new TagGridTable(database);
     showTable(*sourceGrid, table);
+    const SourceBrowser::GroupLook groupLook{theme::colour(theme::groupFlag), theme::colour(theme::groupDescription),
+                                             theme::colour(theme::contentBackground)};
     sourceBrowser = std::make_unique<SourceBrowser>(
-        SourceBrowser::Controls{*sourceTree, *sourceGrid, *sourceFilter, *groupFilters, *groupFilterSizer}, database,
-        *table);
+        SourceBrowser::Controls{*sourceTree, *sourceGrid, *sourceFilter, *groupFilters, *groupFilterSizer, groupLook},
+        database, *table);
 }
 
 void MainFrame::loadDatabase(const wxString& path)

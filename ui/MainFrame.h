@@ -41,6 +41,7 @@ public:
 
 protected:
     void OnSourceTreeSelChanged(wxTreeEvent& event) override;
+    void OnSourceTreeLeftUp(wxMouseEvent& event) override;
     void OnSourceFilterChanged(wxCommandEvent& event) override;
     void OnSourceGridKeyDown(wxKeyEvent& event) override;
     void OnSourceGridRightDown(wxMouseEvent& event) override;
@@ -72,7 +73,6 @@ private:
     void toggleView();
     void refreshStatus();
     std::vector<int> selectedAddresses() const;
-    std::optional<int> targetAddress() const;
     std::vector<int> collectSelection() const;
     void reselectAddresses(std::vector<int> addresses);
 

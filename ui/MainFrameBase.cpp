@@ -239,6 +239,7 @@ wxPanel* MainFrameBase::createStatusLine()
 void MainFrameBase::connectEvents()
 {
     sourceTree->Bind(wxEVT_TREE_SEL_CHANGED, &MainFrameBase::OnSourceTreeSelChanged, this);
+    sourceTree->Bind(wxEVT_LEFT_UP, &MainFrameBase::OnSourceTreeLeftUp, this);
     sourceFilter->Bind(wxEVT_TEXT, &MainFrameBase::OnSourceFilterChanged, this);
     groupFilters->Bind(wxEVT_CHECKBOX, &MainFrameBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &MainFrameBase::OnSourceGridKeyDown, this);
@@ -285,6 +286,11 @@ void MainFrameBase::fitColumns()
 }
 
 void MainFrameBase::OnSourceTreeSelChanged(wxTreeEvent& event)
+{
+    event.Skip();
+}
+
+void MainFrameBase::OnSourceTreeLeftUp(wxMouseEvent& event)
 {
     event.Skip();
 }

@@ -29,6 +29,7 @@ public:
 
 protected:
     virtual void OnSourceTreeSelChanged(wxTreeEvent& event);
+    virtual void OnSourceTreeLeftUp(wxMouseEvent& event);
     virtual void OnSourceFilterChanged(wxCommandEvent& event);
     virtual void OnSourceGridKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridRightDown(wxMouseEvent& event);

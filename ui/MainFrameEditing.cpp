@@ -34,7 +34,7 @@ void MainFrame::cutRegisters()
 
 void MainFrame::pasteRegisters()
 {
-    const std::optional<int> target = targetAddress();
+    const std::optional<int> target = insertionTarget(mapTable->GetNumberRows(), selectedAddresses());
     if (!target)
         return;
     switch (::pasteRegisters(map, *target))
@@ -52,7 +52,7 @@ void MainFrame::pasteRegisters()
 
 void MainFrame::appendRegisters()
 {
-    const std::optional<int> target = targetAddress();
+    const std::optional<int> target = insertionTarget(mapTable->GetNumberRows(), selectedAddresses());
     if (target && ::appendRegisters(map, *target))
         refreshMapView(-1);
 }

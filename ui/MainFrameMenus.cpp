@@ -4,7 +4,7 @@
 
 #include <wx/grid.h>
 #include <wx/menu.h>
-#include <wx/treebase.h>
+#include <wx/treectrl.h>
 
 namespace
 {
@@ -88,6 +88,15 @@ void MainFrame::OnSourceTreeSelChanged(wxTreeEvent& event)
 {
     if (!sourceBrowser->isFilling())
         sourceBrowser->selectNode(event.GetItem());
+}
+
+void MainFrame::OnSourceTreeLeftUp(wxMouseEvent& event)
+{
+    // The root is selected from the start without its prefix; a click on it brings no change of selection.
+    event.Skip();
+    const wxTreeItemId node = sourceTree->HitTest(event.GetPosition());
+    if (node.IsOk() && node == sourceTree->GetSelection())
+        sourceBrowser->selectNode(node);
 }
 
 void MainFrame::OnSourceFilterChanged(wxCommandEvent&)

@@ -9,6 +9,7 @@
 #include <wx/aboutdlg.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
+#include <wx/generic/aboutdlgg.h>
 #include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
 #include <wx/utils.h>
@@ -51,7 +52,8 @@ void MainFrame::showAbout()
     about.SetDescription("Modbus map editor for Varnok and Dravel products");
     about.SetCopyright("Copyright (C) 2026 BELTHORNE LTD");
     about.SetWebSite("https://www.belthorne.example");
-    wxAboutBox(about);
+    // The box that the toolkit draws itself: the desktop's own does not wait until it is closed.
+    wxGenericAboutBox(about);
 }
 
 void MainFrame::showHelp()

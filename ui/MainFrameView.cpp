@@ -8,6 +8,7 @@
 #include "source/ToolkitText.h"
 #include "ui/MainFrame.h"
 #include "ui/NamedImages.h"
+#include "ui/SpaceButtons.h"
 #include "ui/Theme.h"
 
 #include <wx/bmpbuttn.h>
@@ -18,9 +19,6 @@
 
 namespace
 {
-
-constexpr std::array<const char*, spaceCount> spaceImages{"png_tool_coil", "png_tool_input", "png_tool_status",
-                                                          "png_tool_holding"};
 
 /// Scrolls a grid until a row is the first one seen, as far as rows below it allow.
 void scrollToTop(wxGrid& grid, int row)
@@ -71,11 +69,12 @@ void MainFrame::selectSpace(RegisterSpace space)
 
 void MainFrame::showSpaceButtons()
 {
-    for (const RegisterSpace space : allSpaces)
+    for (const SpaceButton& button : spaceButtonOrder)
     {
-        const auto index = static_cast<std::size_t>(space);
-        const wxString image = spaceImages[index];
-        spaceButtons[index]->SetBitmapLabel(namedImage(space == map.currentSpace ? image + "_pressed" : image));
+        const wxString image = button.image;
+        const bool shown = button.space == map.currentSpace;
+        spaceButtons[static_cast<std::size_t>(button.space)]->SetBitmapLabel(
+            namedImage(shown ? image + "_pressed" : image));
     }
 }
 
@@ -98,16 +97,6 @@ std::vector<int> MainFrame::selectedAddresses() const
     std::transform(addresses.begin(), addresses.end(), addresses.begin(),
                    [this](int row) { return mapTable->addressOf(row); });
     return addresses;
-}
-
-std::optional<int> MainFrame::targetAddress() const
-{
-    if (mapTable->GetNumberRows() == 0)
-        return 0;
-    const std::vector<int> addresses = selectedAddresses();
-    if (addresses.empty())
-        return std::nullopt;
-    return addresses.front();
 }
 
 std::vector<int> MainFrame::collectSelection() const

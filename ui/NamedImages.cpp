@@ -10,9 +10,9 @@
 namespace
 {
 
-wxBitmap bitmapOf(const wxString& fileName)
+wxBitmap bitmapOf(const wxString& name)
 {
-    const std::span<const unsigned char> bytes = embeddedFile(modelText(fileName));
+    const std::span<const unsigned char> bytes = embeddedFile(modelText(name));
     if (bytes.empty())
         return {};
     wxMemoryInputStream stream(bytes.data(), bytes.size());
@@ -23,8 +23,8 @@ wxBitmap bitmapOf(const wxString& fileName)
 
 wxBitmapBundle namedImage(const wxString& name)
 {
-    const wxBitmap single = bitmapOf(name + ".png");
-    const wxBitmap twofold = bitmapOf(name + "@2x.png");
+    const wxBitmap single = bitmapOf(name);
+    const wxBitmap twofold = bitmapOf(name + "@2x");
     if (!single.IsOk() || !twofold.IsOk())
         return {};
     return wxBitmapBundle::FromBitmaps(single, twofold);
@@ -33,9 +33,9 @@ wxBitmapBundle namedImage(const wxString& name)
 wxIconBundle namedIcon(const wxString& name)
 {
     wxIconBundle icons;
-    for (const wxString& fileName : {name + ".png", name + "@2x.png"})
+    for (const wxString& pictureName : {name, name + "@2x"})
     {
-        const wxBitmap bitmap = bitmapOf(fileName);
+        const wxBitmap bitmap = bitmapOf(pictureName);
         if (!bitmap.IsOk())
             continue;
         wxIcon icon;

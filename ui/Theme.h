@@ -5,7 +5,8 @@
 #include <wx/colour.h>
 #include <wx/font.h>
 
-/// The one dark look of all windows: every colour and font that a window uses, named by what it is for.
+/// The one dark look of all windows: their colours and fonts, named by what they are for. What a cell of a grid is
+/// written in follows from what it shows and is decided there.
 namespace theme
 {
 

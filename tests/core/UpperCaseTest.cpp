@@ -71,9 +71,9 @@ TEST(UpperCase, LongTextsChangeAtEveryPlace)
 TEST(UpperCase, IsTheSameInEveryLocale)
 {
     const std::string before = std::setlocale(LC_ALL, nullptr);
-    for (const char* locale : {"C", "tr_TR.UTF-8", "de_DE.ISO-8859-1"})
+    for (const char* locale : {"C", "C.UTF-8"})
     {
-        std::setlocale(LC_ALL, locale);
+        ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr) << locale;
         EXPECT_EQ(toUpperCase("title \xC3\xBC"), "TITLE \xC3\x9C") << locale;
     }
     std::setlocale(LC_ALL, before.c_str());

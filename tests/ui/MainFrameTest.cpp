@@ -173,9 +173,13 @@ TEST(MainFrame, MapChangedAndChangedBackLeavesWithoutAQuestion)
 {
     const PlantFiles files(definition);
     EditorWindow* const editor = openEditor(files.startup());
-    RegisterEntry& slot = slotAt(editor->registerMap().currentSlots(), 100);
-    slot.locked = true;
-    slot.locked = false;
+    editor->clickMapRow(0);
+    const RegisterEntry& slot = slotAt(editor->registerMap().currentSlots(), 100);
+    clickOn(*editor->button("Toggle register lock"));
+    EXPECT_TRUE(waitUntil([&] { return slot.locked; }));
+    EXPECT_TRUE(editor->registerMap().isModified());
+    clickOn(*editor->button("Toggle register lock"));
+    EXPECT_TRUE(waitUntil([&] { return !slot.locked; }));
     clickOn(*editor->button("Exit without saving"));
     EXPECT_TRUE(waitUntilGone(editor));
 }

@@ -48,10 +48,25 @@ void MenuScript::onOpen(wxMenuEvent& event)
     event.Skip();
 }
 
+namespace
+{
+
+void clickAt(const wxWindow& window, wxPoint place, int mouseButton)
+{
+    const wxPoint onScreen = window.ClientToScreen(place);
+    wxUIActionSimulator simulator;
+    simulator.MouseMove(onScreen.x, onScreen.y);
+    simulator.MouseClick(mouseButton);
+}
+
+} // namespace
+
+void leftClickOn(const wxWindow& window, int x, int y)
+{
+    clickAt(window, wxPoint(x, y), wxMOUSE_BTN_LEFT);
+}
+
 void rightClickOn(const wxWindow& window, int x, int y)
 {
-    const wxPoint place = window.ClientToScreen(wxPoint(x, y));
-    wxUIActionSimulator simulator;
-    simulator.MouseMove(place.x, place.y);
-    simulator.MouseClick(wxMOUSE_BTN_RIGHT);
+    clickAt(window, wxPoint(x, y), wxMOUSE_BTN_RIGHT);
 }

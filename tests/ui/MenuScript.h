@@ -33,6 +33,11 @@ private:
     std::vector<std::string> entries;
 };
 
+/// Presses the primary mouse button over a place of a window.
+/// @param x  pixels from the left edge
+/// @param y  pixels from the top edge
+void leftClickOn(const wxWindow& window, int x, int y);
+
 /// Presses the secondary mouse button over a place of a window.
 /// @param x  pixels from the left edge
 /// @param y  pixels from the top edge

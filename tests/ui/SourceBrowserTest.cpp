@@ -1,9 +1,8 @@
+#include "source/GridSelection.h"
+#include "source/ToolkitText.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
-
-#include "source/GridSelection.h"
-#include "source/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>
@@ -134,6 +133,38 @@ TEST(SourceBrowser, TreeNodeChoosesTheBeginningOfTheNames)
     EXPECT_EQ(shownTags(editor).size(), 4U);
     clickNode(editor, root);
     EXPECT_EQ(shownTags(editor), allTags);
+}
+
+TEST(SourceBrowser, ClickOnTheRootTakesItsPrefixThoughItIsSelectedFromTheStart)
+{
+    const TempFolder folder;
+    const auto database = folder.write("rooted.json", R"({"structure": [{"lable": "Works", "dbprefix": "A_"}],
+        "database": [{"Name": "A_1"}, {"Name": "B_1"}]})");
+    const EditorWindow& editor = *openEditor({database.string(), "", 0});
+    EXPECT_EQ(shownTags(editor), Names({"A_1", "B_1"}));
+    wxRect label;
+    ASSERT_TRUE(editor.sourceTree->GetBoundingRect(editor.sourceTree->GetRootItem(), label, true));
+    leftClickOn(*editor.sourceTree, label.x + label.width / 2, label.y + label.height / 2);
+    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"A_1"}); }));
+}
+
+TEST(SourceBrowser, ThirtyThirdGroupGetsNoCheckBoxAndLabelsAreLiteral)
+{
+    const TempFolder folder;
+    std::string groups;
+    for (int i = 0; i < 33; ++i)
+        groups += (i == 0 ? "" : ",") + (R"({"mask": "1", "flag": "A&B)" + std::to_string(i) + R"(", "desc": "R&D"})");
+    const auto database = folder.write("groups.json", "{\"database_groups\": [" + groups +
+                                                          "], \"structure\": [{\"lable\": \"\"}], \"database\": []}");
+    const EditorWindow& editor = *openEditor({database.string(), "", 0});
+    EXPECT_NE(groupBox(editor, "A&B31"), nullptr);
+    EXPECT_EQ(groupBox(editor, "A&B32"), nullptr);
+    EXPECT_EQ(editor.groupFilters->GetChildren().size(), 64U);
+    const auto* const text = dynamic_cast<wxStaticText*>(editor.groupFilters->GetChildren()[1]);
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->GetLabelText(), "R&D");
+    EXPECT_EQ(text->GetForegroundColour(), wxColour(224, 224, 224));
+    EXPECT_EQ(groupBox(editor, "A&B0")->GetForegroundColour(), wxColour(255, 217, 0));
 }
 
 TEST(SourceBrowser, ControlAAndControlCCopyEveryShownTag)
