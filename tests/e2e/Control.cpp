@@ -11,6 +11,7 @@ constexpr const char* rootPath = "/org/a11y/atspi/accessible/root";
 /// Numbers of states on the bus.
 constexpr unsigned activeState = 1;
 constexpr unsigned checkedState = 4;
+constexpr unsigned focusedState = 12;
 constexpr unsigned showingState = 25;
 
 /// Bounds are asked for in pixels of the screen, not of the window.
@@ -94,6 +95,11 @@ bool Control::isShowing() const
 bool Control::isActive() const
 {
     return hasState(activeState);
+}
+
+bool Control::isFocused() const
+{
+    return hasState(focusedState);
 }
 
 bool Control::isChecked() const

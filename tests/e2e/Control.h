@@ -34,7 +34,8 @@ public:
 
     Rectangle bounds() const;
     bool isShowing() const;
-    bool isActive() const; ///< whether a window has the keyboard
+    bool isActive() const;  ///< whether a window has the keyboard
+    bool isFocused() const; ///< whether a control of such a window has it
     bool isChecked() const;
     std::vector<Control> children() const;
 

@@ -39,10 +39,7 @@ enum class Modifier
     Shift
 };
 
-/// Screen, mouse and keyboard, used as a person uses them.
-///
-/// Window managers look at clicks before they pass them on, so a key may overtake a click: what a click does has to be
-/// seen before a key is pressed. Otherwise input arrives in the order in which it is made.
+/// Screen, mouse and keyboard, used as a person uses them. Input arrives in the order in which it is made.
 class PrivateScreen
 {
 public:

@@ -68,6 +68,28 @@ Rectangle settledBounds(const Control& control)
     return last;
 }
 
+/// Waits for a control of a window.
+/// @param what  how to name it when it does not come
+Control waitForControlIn(const Control& window, const std::string& what, const Control::Test& fits)
+{
+    const std::optional<Control> found = waitFor([&] { return window.find(fits); });
+    if (!found)
+        throw std::runtime_error("not shown: " + what);
+    return *found;
+}
+
+/// The control of a dialog that stands in one line with a label.
+Control controlBeside(const Control& dialog, const std::string& label, const std::string& role)
+{
+    const int line = settledBounds(waitForControlIn(dialog, label, labelSaying(label))).middle().y;
+    return waitForControlIn(dialog, role + " beside " + label,
+                            [&](const Control& control)
+                            {
+                                const Rectangle bounds = control.bounds();
+                                return control.role() == role && bounds.y <= line && line < bounds.y + bounds.height;
+                            });
+}
+
 } // namespace
 
 ProgramUnderTest::ProgramUnderTest(PrivateScreen& itsScreen, const fs::path& home,
@@ -90,8 +112,12 @@ std::optional<Control> ProgramUnderTest::activeWindow() const
 
 Control ProgramUnderTest::waitForWindow(const std::string& title)
 {
-    const std::optional<Control> found =
-        waitFor([&] { return screen.activeTitle() == title ? activeWindow() : std::nullopt; });
+    const std::optional<Control> found = waitFor(
+        [&]
+        {
+            std::optional<Control> window = activeWindow();
+            return window && window->name() == title && screen.activeTitle() == title ? window : std::nullopt;
+        });
     if (!found)
         throw std::runtime_error("no window with the keyboard: " + title);
     settledBounds(*found);
@@ -157,10 +183,7 @@ void ProgramUnderTest::click(const Control& control)
 
 void ProgramUnderTest::clickButton(const Control& window, const std::string& name)
 {
-    const std::optional<Control> button = window.find(buttonNamed(name));
-    if (!button)
-        throw std::runtime_error("no button " + name);
-    click(*button);
+    click(waitForControlIn(window, "button " + name, buttonNamed(name)));
 }
 
 void ProgramUnderTest::clickTool(const std::string& tooltip)
@@ -178,14 +201,9 @@ void ProgramUnderTest::chooseFromMenu(GridOnScreen grid, int row, const std::str
     screen.parkPointer();
 }
 
-void ProgramUnderTest::waitForStatus(const std::string& text)
+void ProgramUnderTest::waitForText(const std::string& text)
 {
     waitForControl(text, labelSaying(text));
-}
-
-void ProgramUnderTest::waitForView(const std::string& label)
-{
-    waitForControl(label, labelSaying(label));
 }
 
 GridOnScreen ProgramUnderTest::gridBelow(const std::string& columnTitle)
@@ -215,10 +233,36 @@ GridOnScreen ProgramUnderTest::mapGrid()
     return gridBelow("ADDRESS");
 }
 
-Control ProgramUnderTest::filterField()
+void ProgramUnderTest::typeInto(const Control& field, const std::string& text)
 {
-    return waitForControl("filter", [](const Control& control)
-                          { return control.description() == "Tagname and Description filter"; });
+    if (!field.isFocused())
+        click(field);
+    if (!waitFor([&] { return field.isFocused(); }))
+        throw std::runtime_error("the field does not take the keyboard");
+    screen.pressKey("a", Modifier::Control);
+    screen.type(text);
+    if (!waitFor([&] { return field.text() == text; }))
+        throw std::runtime_error("the field holds " + field.text() + " instead of " + text);
+}
+
+void ProgramUnderTest::typeFilter(const std::string& text)
+{
+    typeInto(waitForControl("filter", [](const Control& control)
+                            { return control.description() == "Tagname and Description filter"; }),
+             text);
+}
+
+void ProgramUnderTest::typeInto(const Control& dialog, const std::string& label, const std::string& text)
+{
+    typeInto(controlBeside(dialog, label, "text"), text);
+}
+
+void ProgramUnderTest::tick(const Control& dialog, const std::string& label)
+{
+    const Control box = controlBeside(dialog, label, "check box");
+    click(box);
+    if (!waitFor([&] { return box.isChecked(); }))
+        throw std::runtime_error("not ticked: " + label);
 }
 
 int ProgramUnderTest::waitForExit()

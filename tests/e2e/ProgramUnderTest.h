@@ -35,8 +35,8 @@ public:
     /// Whether the main window is shown at this moment.
     bool showsMainWindow() const;
 
-    /// Waits for a window that has the keyboard.
-    /// @param title  its whole title
+    /// Waits for a window or dialog that has the keyboard.
+    /// @param title  its whole title; that of a message box is not known on the accessibility bus
     Control waitForWindow(const std::string& title);
 
     /// Waits for a message box.
@@ -57,19 +57,23 @@ public:
     /// Opens the pop-up menu of a grid's row and clicks one of its entries.
     void chooseFromMenu(GridOnScreen grid, int row, const std::string& entry);
 
-    /// Waits until the status line says something.
-    void waitForStatus(const std::string& text);
-
-    /// Waits until the name of a view mode is shown.
-    void waitForView(const std::string& label);
+    /// Waits until a label says something: the status line, the view mode, the hint of a dialog.
+    /// @param text  the whole of it
+    void waitForText(const std::string& text);
 
     GridOnScreen tagGrid();
     GridOnScreen mapGrid();
 
-    /// The text field for the filter.
-    Control filterField();
+    /// Replaces what is in the text field for the filter.
+    void typeFilter(const std::string& text);
 
-    void click(const Control& control);
+    /// Replaces what is in a text field of a dialog.
+    /// @param label  what stands to the left of the field
+    void typeInto(const Control& dialog, const std::string& label, const std::string& text);
+
+    /// Clicks the check box of a dialog that has no text of its own.
+    /// @param label  what stands to the left of it
+    void tick(const Control& dialog, const std::string& label);
 
     /// Waits until it has ended.
     /// @return its exit code
@@ -81,6 +85,8 @@ public:
 private:
     std::optional<Control> activeWindow() const;
     Control waitForControl(const std::string& what, const Control::Test& fits);
+    void click(const Control& control);
+    void typeInto(const Control& field, const std::string& text);
     GridOnScreen gridBelow(const std::string& columnTitle);
 
     PrivateScreen& screen;

@@ -30,8 +30,8 @@ TEST_F(SamplePlant, LookingAtItLeavesWithoutAQuestionAndTheFileUntouched)
 {
     const FileState before(map);
     ProgramUnderTest& program = open(database, map);
-    program.waitForStatus(sampleErrors);
-    program.waitForView("COMPRESSED");
+    program.waitForText(sampleErrors);
+    program.waitForText("COMPRESSED");
 
     GridOnScreen grid = program.mapGrid();
     for (const char* const space : {"Show Status Registers", "Show Coil Registers", "Show Input Registers"})
@@ -42,13 +42,13 @@ TEST_F(SamplePlant, LookingAtItLeavesWithoutAQuestionAndTheFileUntouched)
     }
 
     program.clickTool("Toggle view");
-    program.waitForView("EXPANDED");
+    program.waitForText("EXPANDED");
     grid.select(0);
     screen.pressKey("space");
-    program.waitForView("ALL");
+    program.waitForText("ALL");
     screen.pressKey("space");
-    program.waitForView("COMPRESSED");
-    program.waitForStatus(sampleErrors);
+    program.waitForText("COMPRESSED");
+    program.waitForText(sampleErrors);
 
     leaveWithoutQuestion();
     EXPECT_EQ(FileState(map), before);

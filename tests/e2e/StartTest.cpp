@@ -36,7 +36,7 @@ TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnE
     ProgramUnderTest& program = start({});
     program.clickButton(program.waitForMessage(noDatabase), "OK");
     program.waitForMainWindow();
-    program.waitForStatus("  No errors");
+    program.waitForText("  No errors");
     EXPECT_EQ(program.mapGrid().filledRows(), 0);
     EXPECT_EQ(program.tagGrid().filledRows(), 0);
     leaveWithoutQuestion();
