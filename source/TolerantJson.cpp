@@ -1,144 +1,139 @@
 #include "source/TolerantJson.h"
 
-#include "source/JsonNumber.h"
 #include "source/StrictJson.h"
 #include "text/Lines.h"
 
-#include <rapidjson/document.h>
+#include <rapidjson/reader.h>
 
-#include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <utility>
-
-/// Values live in a pool, which is released block by block and not value by value.
-struct TolerantJson::Content
-{
-    rapidjson::Document document;
-};
 
 namespace
 {
 
-using Node = rapidjson::Value;
-
-const Node& nodeOf(const void* value)
-{
-    return *static_cast<const Node*>(value);
-}
-
-/// Numbers stay texts: whoever asks for a text gets it as written, whoever asks for a number gets exact bits.
+/// Numbers stay texts: whoever wants a text gets it as written, whoever wants a number gets exact bits.
 constexpr unsigned parseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
 
-/// True when the four characters behind "\u" begin with the given digit and one out of `seconds`.
-bool isEscapeOf(std::string_view escape, std::string_view seconds)
+/// Hands on what the parser finds; it goes on for as long as the answer is true.
+class Forwarder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Forwarder>
 {
-    return escape.size() >= 6 && escape.starts_with("\\u") && (escape[2] == 'd' || escape[2] == 'D') &&
-           seconds.find(escape[3]) != std::string_view::npos;
+public:
+    explicit Forwarder(JsonEvents& receiver) : events(receiver) {}
+
+    bool StartObject()
+    {
+        events.beginObject();
+        return true;
+    }
+
+    bool EndObject(rapidjson::SizeType)
+    {
+        events.endObject();
+        return true;
+    }
+
+    bool StartArray()
+    {
+        events.beginArray();
+        return true;
+    }
+
+    bool EndArray(rapidjson::SizeType)
+    {
+        events.endArray();
+        return true;
+    }
+
+    bool Key(const char* name, rapidjson::SizeType length, bool)
+    {
+        events.key({name, length});
+        return true;
+    }
+
+    bool String(const char* text, rapidjson::SizeType length, bool)
+    {
+        events.text({text, length});
+        return true;
+    }
+
+    bool RawNumber(const char* text, rapidjson::SizeType length, bool)
+    {
+        events.text({text, length});
+        return true;
+    }
+
+    bool Bool(bool)
+    {
+        events.literal();
+        return true;
+    }
+
+    bool Null()
+    {
+        events.literal();
+        return true;
+    }
+
+private:
+    JsonEvents& events;
+};
+
+/// True when a "\u" escape of "d" and one of `seconds` begins the text.
+bool beginsWithEscapeOf(std::string_view text, std::string_view seconds)
+{
+    return text.size() >= 6 && text.starts_with("\\u") && (text[2] == 'd' || text[2] == 'D') &&
+           seconds.find(text[3]) != std::string_view::npos;
 }
 
 /// True when an escaped low surrogate does not follow an escaped high one. The parser notices only the opposite
 /// and would make bytes of it that are no UTF-8.
 bool holdsLoneLowSurrogate(std::string_view text)
 {
-    constexpr std::size_t unicodeEscape = 6;
+    constexpr std::string_view high = "89abAB";
+    constexpr std::string_view low = "cdefCDEF";
+    constexpr std::size_t escapeLength = 6;
     std::size_t place = text.find('\\');
     while (place != std::string_view::npos)
     {
-        const std::string_view escape = text.substr(place);
-        if (isEscapeOf(escape, "cdefCDEF"))
+        const std::string_view ahead = text.substr(place);
+        if (beginsWithEscapeOf(ahead, low))
             return true;
         std::size_t length = 2;
-        if (isEscapeOf(escape, "89abAB"))
-            length = isEscapeOf(escape.substr(unicodeEscape), "cdefCDEF") ? 2 * unicodeEscape : unicodeEscape;
+        if (beginsWithEscapeOf(ahead, high) && beginsWithEscapeOf(ahead.substr(escapeLength), low))
+            length = 2 * escapeLength;
         place = text.find('\\', place + length);
     }
     return false;
 }
 
-bool parseStrictly(const std::string& text, rapidjson::Document& document)
+bool beginsWithBracket(std::string_view text)
 {
-    // The parser counts with 32 bits, and takes a zero byte for the end.
-    if (text.size() > std::numeric_limits<rapidjson::SizeType>::max())
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && (text[first] == '{' || text[first] == '[');
+}
+
+bool readStrictJson(const std::string& text, JsonEvents& events)
+{
+    // The parser counts with 32 bits.
+    if (!beginsWithBracket(text) || text.size() > std::numeric_limits<rapidjson::SizeType>::max())
         return false;
+    events.beginDocument();
+    Forwarder forwarder(events);
+    rapidjson::Reader reader;
     rapidjson::StringStream stream(text.c_str());
-    document.ParseStream<parseFlags>(stream);
-    return !document.HasParseError() && stream.Tell() == text.size() && (document.IsObject() || document.IsArray()) &&
-           !holdsLoneLowSurrogate(text);
+    const bool parsed = !reader.Parse<parseFlags>(stream, forwarder).IsError();
+    // A zero byte is the end to the parser, but not to us.
+    return parsed && stream.Tell() == text.size() && !holdsLoneLowSurrogate(text);
 }
 
 } // namespace
 
-TolerantJson::TolerantJson(std::unique_ptr<Content> parsed) : content(std::move(parsed)) {}
-TolerantJson::TolerantJson(TolerantJson&& other) noexcept = default;
-TolerantJson& TolerantJson::operator=(TolerantJson&& other) noexcept = default;
-TolerantJson::~TolerantJson() = default;
-
-std::optional<TolerantJson> TolerantJson::parse(std::string text)
+bool readTolerantJson(std::string text, JsonEvents& events)
 {
     // In strict JSON line breaks stand between tokens only, so it means the same before its lines are joined.
-    auto parsed = std::make_unique<Content>();
-    if (parseStrictly(text, parsed->document))
-        return TolerantJson(std::move(parsed));
-
-    parsed = std::make_unique<Content>();
+    if (readStrictJson(text, events))
+        return true;
     const auto strict = toStrictJson(joinLines(std::move(text)));
-    if (!strict || !parseStrictly(*strict, parsed->document))
-        return std::nullopt;
-    return TolerantJson(std::move(parsed));
-}
-
-JsonValue TolerantJson::root() const
-{
-    return JsonValue(&content->document);
-}
-
-std::size_t JsonValue::size() const
-{
-    return present() && nodeOf(node).IsArray() ? nodeOf(node).Size() : 0;
-}
-
-JsonValue JsonValue::operator[](std::size_t index) const
-{
-    return JsonValue(&nodeOf(node)[static_cast<rapidjson::SizeType>(index)]);
-}
-
-JsonValue JsonValue::member(std::string_view name) const
-{
-    JsonValue value;
-    members({&name, 1}, {&value, 1});
-    return value;
-}
-
-void JsonValue::members(std::span<const std::string_view> names, std::span<JsonValue> values) const
-{
-    std::ranges::fill(values, JsonValue());
-    if (!present() || !nodeOf(node).IsObject())
-        return;
-    // Objects of one kind mostly have their members in one order: the search begins behind the name found last.
-    std::size_t next = 0;
-    for (const auto& member : nodeOf(node).GetObject())
-    {
-        const std::string_view name(member.name.GetString(), member.name.GetStringLength());
-        for (std::size_t tried = 0; tried < names.size(); ++tried)
-        {
-            const std::size_t index = next + tried < names.size() ? next + tried : next + tried - names.size();
-            if (names[index] != name)
-                continue;
-            values[index] = JsonValue(&member.value);
-            next = index + 1;
-            break;
-        }
-    }
-}
-
-std::string_view JsonValue::text() const
-{
-    if (!present() || !nodeOf(node).IsString())
-        return {};
-    return {nodeOf(node).GetString(), nodeOf(node).GetStringLength()};
-}
-
-std::uint32_t JsonValue::bits() const
-{
-    return wholeNumberBits(text());
+    return strict && readStrictJson(*strict, events);
 }

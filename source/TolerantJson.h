@@ -1,80 +1,46 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <memory>
-#include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
-/// A value of a JSON document, or the absence of one. A handle, valid as long as the document is.
-///
-/// Nothing that is asked of a value of another kind, or of an absent one, is an error: it has no elements and no
-/// members, its text is empty and its number is 0.
-class JsonValue
+/// Receives a JSON document piece by piece, in the order of the text.
+class JsonEvents
 {
 public:
-    /// An absent value.
-    JsonValue() = default;
+    virtual ~JsonEvents() = default;
 
-    /// True when the document holds the value; null is a value, too.
-    bool present() const { return node != nullptr; }
+    /// The document begins. A text that turns out not to be strict is read a second time: what was received is void.
+    virtual void beginDocument() = 0;
 
-    /// Number of elements of an array.
-    std::size_t size() const;
+    /// An object begins; its members follow, each as its key and its value.
+    virtual void beginObject() = 0;
 
-    /// An element of an array.
-    /// @param index  0..size() - 1
-    JsonValue operator[](std::size_t index) const;
+    /// The innermost object is complete.
+    virtual void endObject() = 0;
 
-    /// The member of an object with that name; the last one, when there are several.
-    JsonValue member(std::string_view name) const;
+    /// An array begins; its elements follow.
+    virtual void beginArray() = 0;
 
-    /// Looks several members of an object up in one pass.
-    /// @param names   what to look for, each name once
-    /// @param values  as many as there are names; receives the last member of each name, or absence
-    void members(std::span<const std::string_view> names, std::span<JsonValue> values) const;
+    /// The innermost array is complete.
+    virtual void endArray() = 0;
 
-    /// The text of a string, or of a number as the file writes it.
-    std::string_view text() const;
+    /// The name of a member, whose value follows.
+    /// @param name  UTF-8, valid during the call
+    virtual void key(std::string_view name) = 0;
 
-    /// The number, also when it is written as a string: its fraction cut off, of its whole part the low 32 bits.
-    std::uint32_t bits() const;
+    /// A string, or a number as the file writes it.
+    /// @param content  UTF-8, valid during the call
+    virtual void text(std::string_view content) = 0;
 
-private:
-    friend class TolerantJson;
-
-    explicit JsonValue(const void* value) : node(value) {}
-
-    const void* node = nullptr;
+    /// One of true, false and null.
+    virtual void literal() = 0;
 };
 
-/// A JSON document whose writers need not have been strict; `toStrictJson` lists what is tolerated.
+/// Reads a JSON document whose writers need not have been strict; `toStrictJson` lists what is tolerated.
 ///
-/// Reading and releasing it take no call stack per level, whatever its depth.
-class TolerantJson
-{
-public:
-    /// Reads a document.
-    ///
-    /// Line breaks count for nothing: a string that is broken across lines is one string, and a comment that
-    /// begins with "//" takes in all further lines.
-    /// @param text  UTF-8
-    /// @return nothing when it is no JSON even so, or when its root is neither an object nor an array
-    static std::optional<TolerantJson> parse(std::string text);
-
-    TolerantJson(TolerantJson&& other) noexcept;
-    TolerantJson& operator=(TolerantJson&& other) noexcept;
-    ~TolerantJson();
-
-    /// The object or array that holds everything else.
-    JsonValue root() const;
-
-private:
-    struct Content;
-
-    explicit TolerantJson(std::unique_ptr<Content> parsed);
-
-    std::unique_ptr<Content> content;
-};
+/// Line breaks count for nothing: a string that is broken across lines is one string, and a comment that begins with
+/// "//" takes in all further lines. Depth costs no call stack.
+/// @param text    UTF-8
+/// @param events  receives the document; of a text that is no JSON, some beginning of it
+/// @return false when it is no JSON even so, or when its root is neither an object nor an array
+bool readTolerantJson(std::string text, JsonEvents& events);
