@@ -3,6 +3,7 @@
 #include "source/JsonNumber.h"
 #include "text/Integers.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -44,27 +45,27 @@ constexpr std::array<std::string_view, 3> nodeKeys{"lable", "dbprefix", "structu
 
 enum TagKey : std::size_t
 {
-    TagName,
-    TagDescription,
-    TagTypeWord,
-    TagSize,
-    TagElements,
-    TagAttributes,
-    TagGroups
+    NameKey,
+    DescriptionKey,
+    TypeWordKey,
+    SizeKey,
+    ElementsKey,
+    AttributesKey,
+    TagGroupsKey
 };
 constexpr std::array<std::string_view, 7> tagKeys{"Name",     "Description", "Type",  "Size",
                                                   "Elements", "Attributes",  "Groups"};
 
 /// The place of a name in a list, or the list's size. Objects of one kind mostly have their members in one order:
-/// the search begins behind the name found last.
+/// the name behind the one found last is tried first.
 std::size_t indexOf(std::string_view name, std::span<const std::string_view> names, std::size_t foundLast)
 {
-    for (std::size_t tried = 1; tried <= names.size(); ++tried)
-    {
-        const std::size_t index = (foundLast + tried) % names.size();
-        if (names[index] == name)
-            return index;
-    }
+    const std::size_t next = foundLast + 1 < names.size() ? foundLast + 1 : 0;
+    if (names[next] == name)
+        return next;
+    const auto found = std::ranges::find(names, name);
+    if (found != names.end())
+        return static_cast<std::size_t>(found - names.begin());
     return names.size();
 }
 
@@ -91,6 +92,7 @@ void TagDatabaseBuilder::beginDocument()
     openRoles.clear();
     ignoredDepth = 0;
     openNodes.clear();
+    completeTags.clear();
 }
 
 void TagDatabaseBuilder::beginObject()
@@ -237,25 +239,25 @@ void TagDatabaseBuilder::tagMember(Kind kind, std::string_view content)
 {
     switch (keyIndex)
     {
-    case TagName:
-        tag.name = InternedText(content);
+    case NameKey:
+        tagName = content;
         break;
-    case TagDescription:
-        tag.description = InternedText(content);
+    case DescriptionKey:
+        tagDescription = content;
         break;
-    case TagTypeWord:
+    case TypeWordKey:
         tag.type = typeOf(content);
         break;
-    case TagSize:
+    case SizeKey:
         tag.size = static_cast<std::uint8_t>(wholeNumberBits(content));
         break;
-    case TagElements:
+    case ElementsKey:
         tag.elements = static_cast<std::int32_t>(wholeNumberBits(content));
         break;
-    case TagAttributes:
+    case AttributesKey:
         tag.attributes = static_cast<std::int32_t>(wholeNumberBits(content));
         break;
-    case TagGroups:
+    case TagGroupsKey:
         tag.groups = wholeNumberBits(content);
         break;
     default:
@@ -279,6 +281,8 @@ void TagDatabaseBuilder::beginElement(Role list, Kind kind)
     {
         element = Role::Tag;
         tag = {};
+        tagName.clear();
+        tagDescription.clear();
     }
     else
     {
@@ -296,7 +300,9 @@ void TagDatabaseBuilder::endElement(Role element)
     if (element == Role::Group && database.groups.back().mask == reservedMask)
         database.groups.pop_back();
     else if (element == Role::Tag && tag.groups != reservedMask)
-        database.tags.append(tag);
+        completeTags.add(tag, tagName, tagDescription, database.tags);
+    else if (element == Role::TagList)
+        completeTags.flush(database.tags);
     else if (element == Role::Node)
         openNodes.pop_back();
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "source/TagBatch.h"
 #include "source/TagDatabase.h"
 #include "source/TolerantJson.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -66,5 +68,8 @@ private:
     std::size_t ignoredDepth = 0; ///< open objects and arrays that mean nothing here
     std::size_t keyIndex = 0;     ///< of the last key, among the names that its object is searched for
     std::vector<int> openNodes;   ///< the structure nodes from the root down to the one being read
-    TagRecord tag;                ///< the tag being read
+    TagRecord tag;                ///< the tag being read, without its texts
+    std::string tagName;          ///< its name
+    std::string tagDescription;   ///< its description
+    TagBatch completeTags;        ///< tags that are not in the table yet
 };

@@ -1,6 +1,7 @@
 #include "text/InternedText.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -24,15 +25,47 @@ std::string_view contentOf(const void* entry)
     return {static_cast<const char*>(entry) + sizeof header, header.length};
 }
 
+/// The part of a text whose length the header can hold.
+std::string_view storable(std::string_view utf8)
+{
+    return utf8.substr(0, std::numeric_limits<std::uint32_t>::max());
+}
+
+void fetchAhead([[maybe_unused]] const void* memory)
+{
+#ifdef __GNUC__
+    __builtin_prefetch(memory);
+#endif
+}
+
 /// Open-addressing table over texts that lie in large blocks: one allocation serves thousands of texts.
 class Pool
 {
 public:
+    /// Texts that `fetch` can look ahead over at a time.
+    static constexpr std::size_t groupSize = 16;
+    using Hashes = std::array<std::size_t, groupSize>;
+
     const void* intern(std::string_view utf8)
     {
-        if ((count + 1) * 2 > slots.size())
-            grow();
-        const std::size_t hash = std::hash<std::string_view>{}(utf8);
+        reserve(1);
+        return intern(utf8, hashOf(utf8));
+    }
+
+    /// Hashes up to `groupSize` texts and fetches their places in the table, where `intern` then finds or enters them.
+    void fetch(std::span<const std::string_view> texts, Hashes& hashes)
+    {
+        reserve(texts.size());
+        for (std::size_t i = 0; i < texts.size(); ++i)
+        {
+            hashes[i] = hashOf(storable(texts[i]));
+            fetchAhead(&slots[hashes[i] & (slots.size() - 1)]);
+        }
+    }
+
+    /// @param hash  of that text; there has to be room for one more
+    const void* intern(std::string_view utf8, std::size_t hash)
+    {
         Slot& slot = find(slots, hash, utf8);
         if (slot.entry == nullptr)
         {
@@ -48,6 +81,14 @@ private:
         std::size_t hash = 0;
         const void* entry = nullptr;
     };
+
+    static std::size_t hashOf(std::string_view utf8) { return std::hash<std::string_view>{}(utf8); }
+
+    void reserve(std::size_t further)
+    {
+        while ((count + further) * 2 > slots.size())
+            grow();
+    }
 
     static Slot& find(std::vector<Slot>& table, std::size_t hash, std::string_view utf8)
     {
@@ -111,9 +152,20 @@ Pool& pool()
 
 } // namespace
 
-InternedText::InternedText(std::string_view utf8)
-    : entry(utf8.empty() ? nullptr : pool().intern(utf8.substr(0, std::numeric_limits<std::uint32_t>::max())))
+InternedText::InternedText(std::string_view utf8) : entry(utf8.empty() ? nullptr : pool().intern(storable(utf8))) {}
+
+void InternedText::internAll(std::span<const std::string_view> texts, std::span<InternedText> handles)
 {
+    Pool::Hashes hashes{};
+    while (!texts.empty())
+    {
+        const std::size_t length = std::min(texts.size(), Pool::groupSize);
+        pool().fetch(texts.first(length), hashes);
+        for (std::size_t i = 0; i < length; ++i)
+            handles[i].entry = texts[i].empty() ? nullptr : pool().intern(storable(texts[i]), hashes[i]);
+        texts = texts.subspan(length);
+        handles = handles.subspan(length);
+    }
 }
 
 std::string_view InternedText::view() const
