@@ -46,8 +46,7 @@ void copyRegisters(RegisterMap& map, std::span<const int> addresses)
 {
     if (addresses.empty())
         return;
-    constexpr std::size_t usefulLength = registersPerSpace + 1;
-    const auto useful = addresses.first(std::min(addresses.size(), usefulLength));
+    const auto useful = addresses.first(std::min(addresses.size(), clipboardCapacity));
     map.clipboard.clear();
     map.clipboard.reserve(useful.size());
     for (const int address : useful)
@@ -76,6 +75,11 @@ std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedA
     return shownRows == 0 ? std::optional(0) : std::nullopt;
 }
 
+void insertClipboard(RegisterMap& map, int target)
+{
+    insertRegisters(map.currentSlots(), map.clipboard, target);
+}
+
 PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
 {
     if (map.clipboard.empty())
@@ -85,7 +89,7 @@ PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
         return PasteResult::NothingToDo;
     if (!hasRoom(map.currentSlots(), *target, map.clipboard.size()))
         return PasteResult::NoRoom;
-    insertRegisters(map.currentSlots(), map.clipboard, *target);
+    insertClipboard(map, *target);
     return PasteResult::Pasted;
 }
 
@@ -96,6 +100,6 @@ bool appendRegisters(RegisterMap& map, int rowAddress)
     const int target = firstFreeSlotFrom(map.currentSlots(), rowAddress);
     if (map.clipboard.size() > static_cast<std::size_t>(registersPerSpace - target))
         return false;
-    insertRegisters(map.currentSlots(), map.clipboard, target);
+    insertClipboard(map, target);
     return true;
 }

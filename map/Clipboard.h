@@ -2,11 +2,15 @@
 
 #include "map/RegisterMap.h"
 
+#include <cstddef>
 #include <optional>
 #include <span>
 
 /// Copying, cutting, deleting, pasting and appending registers of the current space. The clipboard is the map's own.
 /// Nothing here validates: copied registers carry their validation results along.
+
+/// Registers that the clipboard keeps at most: one more than a space has can never be placed anyway.
+constexpr std::size_t clipboardCapacity = registersPerSpace + 1;
 
 /// What a paste came to.
 enum class PasteResult
@@ -34,6 +38,10 @@ void cutRegisters(RegisterMap& map, std::span<const int> addresses);
 /// @param selectedAddresses  addresses of the selected rows, in row order
 /// @return nothing when rows are shown and none is selected
 std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedAddresses);
+
+/// Inserts the whole clipboard from `target` on: the step that pasting and appending share.
+/// @param target  0..65535
+void insertClipboard(RegisterMap& map, int target);
 
 /// Inserts the clipboard in front of the object to which the slot at `rowAddress` says that it belongs.
 ///

@@ -2,6 +2,7 @@
 
 #include "map/Insertion.h"
 #include "map/SlotAccess.h"
+#include "text/Characters.h"
 
 #include <algorithm>
 #include <charconv>
@@ -84,8 +85,9 @@ EditRoom editRoom(const RegisterSlots& slots, int head)
     return {saturated(count + firstUsed - behind), saturated(count + freeBeforeLock)};
 }
 
-SpaceCheck checkSpace(std::int32_t length, EditRoom room)
+SpaceCheck checkSpace(std::string_view lengthText, EditRoom room)
 {
+    const std::int32_t length = parseLength(lengthText).value_or(1);
     if (length > room.movableRoom)
         return SpaceCheck::TooLong;
     return length <= room.freeRoom ? SpaceCheck::Fits : SpaceCheck::FitsByMoving;
@@ -93,7 +95,8 @@ SpaceCheck checkSpace(std::int32_t length, EditRoom room)
 
 std::optional<std::int32_t> parseLength(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
+    const auto* const first = std::find_if_not(text.begin(), text.end(), isBlank);
+    text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
     if (text.starts_with('+') && !text.starts_with("+-"))
         text.remove_prefix(1);
     std::int32_t length = 0;
@@ -101,6 +104,13 @@ std::optional<std::int32_t> parseLength(std::string_view text)
     if (error != std::errc() || end != text.data() + text.size())
         return std::nullopt;
     return length;
+}
+
+EditConfirmation confirmEdit(std::string_view tagname, std::string_view lengthText)
+{
+    if (tagname.empty())
+        return EditConfirmation::Cancel;
+    return parseLength(lengthText).value_or(0) < 1 ? EditConfirmation::NoLength : EditConfirmation::Apply;
 }
 
 std::optional<FieldVisibility> visibilityFor(std::string_view typeName)

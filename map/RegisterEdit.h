@@ -33,13 +33,27 @@ enum class SpaceCheck
     TooLong
 };
 
-/// Compares a length with the room; taking the room to the last register fits.
-/// @param length  registers, as typed: negative ones fit here and are refused on confirmation
-SpaceCheck checkSpace(std::int32_t length, EditRoom room);
-
 /// Reads the editor's length field: blanks, a sign and digits, and nothing behind them.
 /// @return nothing when the text is no whole number of 32 bits
 std::optional<std::int32_t> parseLength(std::string_view text);
+
+/// Compares a length with the room; taking the room to the last register fits.
+/// @param lengthText  registers, as typed: a text that is no number counts as 1, negative numbers fit here and are
+///                    refused on confirmation
+SpaceCheck checkSpace(std::string_view lengthText, EditRoom room);
+
+/// What confirming the editor comes to.
+enum class EditConfirmation
+{
+    Apply,
+    Cancel,  ///< an object without a tagname is not applied
+    NoLength ///< the object would have no registers; the editor stays open
+};
+
+/// Judges a confirmed edit.
+/// @param tagname     only the empty text is no tagname, blanks are one
+/// @param lengthText  registers, as typed: a text that is no number counts as 0
+EditConfirmation confirmEdit(std::string_view tagname, std::string_view lengthText);
 
 /// What the editor shows for a type.
 struct FieldVisibility

@@ -7,6 +7,7 @@
 
 /// Moving and shoving registers inside one space. Up is towards address 0, down towards address 65535.
 
+/// Which way a command moves its registers.
 enum class MoveDirection
 {
     Up,

@@ -4,11 +4,21 @@
 
 #include <algorithm>
 
+namespace
+{
+
+/// Far beyond what the objects of a space come to unless a file makes them overlap; 64 MB.
+constexpr std::size_t longestSelection = 1U << 24U;
+
+} // namespace
+
 std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const int> rowAddresses)
 {
     std::vector<int> addresses;
     for (const int row : rowAddresses)
     {
+        if (addresses.size() > longestSelection - registersPerSpace)
+            break;
         if (!isAddress(row) || !isHead(slotAt(slots, row)))
             continue;
         const std::int64_t behind = std::int64_t{row} + slotAt(slots, row).registerCount;

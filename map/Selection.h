@@ -10,5 +10,6 @@
 /// The row of a free slot counts as one register, the row of a continuation slot adds nothing. Objects come in the
 /// order of their rows, each ascending; nothing is sorted and repeats are kept.
 /// @param rowAddresses  addresses of the selected rows; any outside 0..65535 adds nothing
+/// A map of overlapping objects can list the same registers thousands of times over: the list ends at 16,777,216.
 /// @return addresses 0..65535, also when an object's count runs past the end of the space
 std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const int> rowAddresses);

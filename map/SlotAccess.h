@@ -18,6 +18,8 @@ inline RegisterEntry& slotAt(RegisterSlots& slots, int address)
     return slots[static_cast<std::size_t>(address)];
 }
 
+/// The slot at an address, for reading.
+/// @param address  0..65535
 inline const RegisterEntry& slotAt(const RegisterSlots& slots, int address)
 {
     return slots[static_cast<std::size_t>(address)];

@@ -1,5 +1,7 @@
 #include "map/TagPlacing.h"
 
+#include "map/Clipboard.h"
+
 namespace
 {
 
@@ -65,7 +67,8 @@ std::vector<RegisterEntry> copySourceTags(const TagTable& tags, std::span<const 
         entry.tagIndex = index;
         entry.tagname = tag.name;
         entry.description = tag.description;
-        for (entry.address = 0; entry.address < entry.registerCount; ++entry.address)
+        for (entry.address = 0; entry.address < entry.registerCount && registers.size() < clipboardCapacity;
+             ++entry.address)
             registers.push_back(entry);
     }
     return registers;

@@ -53,7 +53,7 @@ wxCheckBox* createCheckBox(wxWindow* parent, const wxString& text)
     auto* const box = new wxCheckBox(parent, wxID_ANY, text);
     box->SetFont(theme::regular(9));
     box->SetForegroundColour(theme::colour(theme::entryText));
-    box->SetBackgroundColour(theme::colour(theme::dialogBackground));
+    box->SetBackgroundColour(theme::colour(theme::entryBackground));
     return box;
 }
 

@@ -11,7 +11,6 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 #include <vector>
 
 class MapGridTable;

@@ -39,6 +39,10 @@ RegisterEditor::RegisterEditor(wxWindow* parent, wxWindowID id, const wxString& 
     statusLabel->SetMinSize(wxSize(longest + FromDIP(statusMargin), -1));
     Fit();
     CentreOnParent();
+
+    // Only a STRING shows them; DOUBLE leaves the field as the type before it had it.
+    lengthLabel->Hide();
+    lengthField->Hide();
 }
 
 void RegisterEditor::showEntry(const RegisterEntry& entry, EditRoom entryRoom)
@@ -64,12 +68,7 @@ EditedRegister RegisterEditor::editedRegister() const
             .SwapBytes = swapBytesBox->IsChecked(),
             .SwapWords = swapWordsBox->IsChecked(),
             .SwapLongs = swapLongsBox->IsChecked(),
-            .registerCount = length().value_or(0)};
-}
-
-std::optional<std::int32_t> RegisterEditor::length() const
-{
-    return parseLength(modelText(lengthField->GetValue()));
+            .registerCount = parseLength(modelText(lengthField->GetValue())).value_or(0)};
 }
 
 void RegisterEditor::showFieldsFor(const FieldVisibility& visibility)
@@ -102,7 +101,7 @@ void RegisterEditor::OnTypeChanged(wxCommandEvent&)
 
 void RegisterEditor::OnLengthChanged(wxCommandEvent&)
 {
-    switch (checkSpace(length().value_or(1), room))
+    switch (checkSpace(modelText(lengthField->GetValue()), room))
     {
     case SpaceCheck::TooLong:
         statusLabel->SetLabel(tooLongText);
@@ -130,12 +129,18 @@ void RegisterEditor::OnOk(wxCommandEvent&)
     // A default button that is hidden may still be pressed by the Enter key.
     if (!okButton->IsShown())
         return;
-    if (tagnameField->GetValue().empty())
-        EndModal(wxID_CANCEL);
-    else if (length().value_or(0) < 1)
-        wxMessageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
-    else
+    switch (confirmEdit(modelText(tagnameField->GetValue()), modelText(lengthField->GetValue())))
+    {
+    case EditConfirmation::Apply:
         EndModal(wxID_OK);
+        break;
+    case EditConfirmation::Cancel:
+        EndModal(wxID_CANCEL);
+        break;
+    case EditConfirmation::NoLength:
+        wxMessageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
+        break;
+    }
 }
 
 void RegisterEditor::OnCancel(wxCommandEvent&)

@@ -26,7 +26,6 @@ protected:
 private:
     void showFieldsFor(const FieldVisibility& visibility);
     void offerOk(const wxString& text);
-    std::optional<std::int32_t> length() const;
 
     EditRoom room;
 };

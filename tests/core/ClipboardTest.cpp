@@ -389,3 +389,19 @@ TEST(Messages, AreWordForWord)
                                     "continue?");
     EXPECT_STREQ(confirmationCaption, "Confirmation");
 }
+
+TEST(InsertionTarget, IsTheFirstSelectedRow)
+{
+    const std::vector<int> selected{7, 9};
+    EXPECT_EQ(insertionTarget(20, selected), 7);
+}
+
+TEST(InsertionTarget, IsNoneWhenRowsAreShownAndNoneIsSelected)
+{
+    EXPECT_EQ(insertionTarget(1, {}), std::nullopt);
+}
+
+TEST(InsertionTarget, IsTheStartOfTheSpaceWhenNoRowIsShown)
+{
+    EXPECT_EQ(insertionTarget(0, {}), 0);
+}

@@ -139,7 +139,7 @@ TEST_F(RegisterEdit, LockedFreeRegisterEndsTheMovableRoomOnly)
     slot(12).locked = true;
     EXPECT_EQ(editRoom(slots, 10).freeRoom, 4);
     EXPECT_EQ(editRoom(slots, 10).movableRoom, 2);
-    EXPECT_EQ(checkSpace(3, editRoom(slots, 10)), SpaceCheck::TooLong);
+    EXPECT_EQ(checkSpace("3", editRoom(slots, 10)), SpaceCheck::TooLong);
 }
 
 TEST_F(RegisterEdit, ObjectCutOffByTheEndOfTheSpaceMayStayAsLongAsItIs)
@@ -148,8 +148,8 @@ TEST_F(RegisterEdit, ObjectCutOffByTheEndOfTheSpaceMayStayAsLongAsItIs)
     const EditRoom room = editRoom(slots, 65534);
     EXPECT_EQ(room.freeRoom, 4);
     EXPECT_EQ(room.movableRoom, 4);
-    EXPECT_EQ(checkSpace(4, room), SpaceCheck::Fits);
-    EXPECT_EQ(checkSpace(5, room), SpaceCheck::TooLong);
+    EXPECT_EQ(checkSpace("4", room), SpaceCheck::Fits);
+    EXPECT_EQ(checkSpace("5", room), SpaceCheck::TooLong);
 }
 
 TEST_F(RegisterEdit, EnormousCountsSaturateTheRoom)
@@ -174,19 +174,19 @@ TEST_F(RegisterEdit, StaleCountOfAVacatedSlotIsReadAsItStands)
 TEST_F(RegisterEdit, LengthEqualToARoomFitsIt)
 {
     const EditRoom room{3, 6};
-    EXPECT_EQ(checkSpace(1, room), SpaceCheck::Fits);
-    EXPECT_EQ(checkSpace(3, room), SpaceCheck::Fits);
-    EXPECT_EQ(checkSpace(4, room), SpaceCheck::FitsByMoving);
-    EXPECT_EQ(checkSpace(6, room), SpaceCheck::FitsByMoving);
-    EXPECT_EQ(checkSpace(7, room), SpaceCheck::TooLong);
-    EXPECT_EQ(checkSpace(6, {6, 6}), SpaceCheck::Fits);
+    EXPECT_EQ(checkSpace("1", room), SpaceCheck::Fits);
+    EXPECT_EQ(checkSpace("3", room), SpaceCheck::Fits);
+    EXPECT_EQ(checkSpace("4", room), SpaceCheck::FitsByMoving);
+    EXPECT_EQ(checkSpace("6", room), SpaceCheck::FitsByMoving);
+    EXPECT_EQ(checkSpace("7", room), SpaceCheck::TooLong);
+    EXPECT_EQ(checkSpace("6", {6, 6}), SpaceCheck::Fits);
 }
 
 TEST_F(RegisterEdit, SpaceIsComparedWithSigns)
 {
-    EXPECT_EQ(checkSpace(-1, {1, 1}), SpaceCheck::Fits);
-    EXPECT_EQ(checkSpace(1, {0, 0}), SpaceCheck::TooLong);
-    EXPECT_EQ(checkSpace(highestCount, {1, highestCount}), SpaceCheck::FitsByMoving);
+    EXPECT_EQ(checkSpace("-1", {1, 1}), SpaceCheck::Fits);
+    EXPECT_EQ(checkSpace("1", {0, 0}), SpaceCheck::TooLong);
+    EXPECT_EQ(checkSpace(std::to_string(highestCount), {1, highestCount}), SpaceCheck::FitsByMoving);
 }
 
 TEST_F(RegisterEdit, WholeNumbersParseAsLength)
@@ -311,7 +311,7 @@ TEST_F(RegisterEdit, LongerObjectMovesTheFollowingOneDown)
 {
     place(10, 1, "A", DataType::Int16);
     place(11, 2, "B", DataType::Int32);
-    EXPECT_EQ(checkSpace(4, editRoom(slots, 10)), SpaceCheck::FitsByMoving);
+    EXPECT_EQ(checkSpace("4", editRoom(slots, 10)), SpaceCheck::FitsByMoving);
     applyEdit(slots, 10, edited("A", "DOUBLE", 4));
     EXPECT_EQ(picture(10, 7), "AAAABB.");
     EXPECT_EQ(editedHead(slots, 15), 14);
@@ -466,4 +466,28 @@ TEST_F(RegisterEdit, AnyPlacementEqualsPlacingRegisterByRegister)
         applyEdit(slots, head, edited("N", "STRING", count));
         ASSERT_TRUE(slots == *expected) << "round " << round << ": " << picture(first, 24);
     }
+}
+
+TEST_F(RegisterEdit, LengthThatIsNoNumberCountsAsOneForTheSpaceAndAsNoneOnConfirmation)
+{
+    for (const char* text : {"", "3x", "text", "4 "})
+    {
+        EXPECT_EQ(checkSpace(text, {1, 2}), SpaceCheck::Fits) << text;
+        EXPECT_EQ(checkSpace(text, {0, 1}), SpaceCheck::FitsByMoving) << text;
+        EXPECT_EQ(confirmEdit("TAG", text), EditConfirmation::NoLength) << text;
+    }
+}
+
+TEST_F(RegisterEdit, EmptyTagnameCancelsWhateverTheLength)
+{
+    EXPECT_EQ(confirmEdit("", "2"), EditConfirmation::Cancel);
+    EXPECT_EQ(confirmEdit("", "0"), EditConfirmation::Cancel);
+    EXPECT_EQ(confirmEdit(" ", "2"), EditConfirmation::Apply);
+}
+
+TEST_F(RegisterEdit, LengthBelowOneIsRefused)
+{
+    EXPECT_EQ(confirmEdit("TAG", "0"), EditConfirmation::NoLength);
+    EXPECT_EQ(confirmEdit("TAG", "-3"), EditConfirmation::NoLength);
+    EXPECT_EQ(confirmEdit("TAG", "1"), EditConfirmation::Apply);
 }

@@ -1,5 +1,7 @@
 #include "map/TagPlacing.h"
 
+#include "map/Clipboard.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -173,4 +175,10 @@ TEST(TagPlacing, PassedOverTagsAreNotTakenOver)
     table.append(tagOf("N", TagType::Numeric));
     const auto registers = copySourceTags(table, std::vector{-1, 0, 1}, {});
     EXPECT_EQ(placesOf(registers), (std::vector<std::uint32_t>{0, 0, 1}));
+}
+
+TEST(TagPlacing, NoMoreRegistersAreMadeThanTheClipboardKeeps)
+{
+    const std::vector<TagRecord> tags(600, tagOf("S", TagType::String, 255));
+    EXPECT_EQ(copyOf(tags).size(), clipboardCapacity);
 }
