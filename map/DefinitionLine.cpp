@@ -51,7 +51,7 @@ std::optional<DefinitionObject> describedObject(const DefinitionFields& fields)
     return object;
 }
 
-RegisterEntry slotValues(const DefinitionObject& object)
+RegisterEntry slotValues(const DefinitionObject& object, InternedText tagname, InternedText description)
 {
     RegisterEntry values;
     values.used = true;
@@ -60,8 +60,8 @@ RegisterEntry slotValues(const DefinitionObject& object)
     values.type = object.type;
     values.registerCount = static_cast<std::uint32_t>(object.count);
     values.write = object.write;
-    values.tagname = InternedText(object.tagname);
-    values.description = InternedText(object.description);
+    values.tagname = tagname;
+    values.description = description;
     return values;
 }
 
@@ -83,7 +83,7 @@ void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields)
     const std::optional<DefinitionObject> object = describedObject(fields);
     if (!object)
         return;
-    const RegisterEntry values = slotValues(*object);
+    const RegisterEntry values = slotValues(*object, InternedText(object->tagname), InternedText(object->description));
     for (int address = object->firstAddress(); address < object->endAddress(); ++address)
     {
         RegisterEntry& slot = map.slots(object->space)[static_cast<std::size_t>(address)];

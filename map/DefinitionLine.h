@@ -50,7 +50,8 @@ struct DefinitionObject
 std::optional<DefinitionObject> describedObject(const DefinitionFields& fields);
 
 /// What the slots of an object have in common, without the byte-order flags.
-RegisterEntry slotValues(const DefinitionObject& object);
+/// @param tagname, description  the object's own, made into texts of the map
+RegisterEntry slotValues(const DefinitionObject& object, InternedText tagname, InternedText description);
 
 /// Gives a slot the values of its object; its byte-order flags and what validation found out stay.
 /// @param address  of the slot, 0..65535

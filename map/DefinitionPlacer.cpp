@@ -2,8 +2,7 @@
 
 #include "map/SlotAccess.h"
 
-#include <algorithm>
-#include <ranges>
+#include <string_view>
 
 namespace
 {
@@ -27,15 +26,30 @@ void DefinitionPlacer::add(const DefinitionObject& object)
 
 void DefinitionPlacer::placeAll()
 {
+    const std::vector<InternedText> texts = waitingTexts();
     std::array<LeftOver, spaceCount> left;
-    for (const DefinitionObject& object : waiting | std::views::reverse)
-        place(object, left[static_cast<std::size_t>(object.space)]);
+    for (std::size_t i = waiting.size(); i-- > 0;)
+    {
+        const DefinitionObject& object = waiting[i];
+        const RegisterEntry values = slotValues(object, texts[2 * i], texts[2 * i + 1]);
+        place(object, values, left[static_cast<std::size_t>(object.space)]);
+    }
     waiting.clear();
 }
 
-void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
+std::vector<InternedText> DefinitionPlacer::waitingTexts() const
 {
-    const RegisterEntry values = slotValues(object);
+    std::vector<std::string_view> texts;
+    texts.reserve(2 * waiting.size());
+    for (const DefinitionObject& object : waiting)
+        texts.insert(texts.end(), {object.tagname, object.description});
+    std::vector<InternedText> handles(texts.size());
+    InternedText::internAll(texts, handles);
+    return handles;
+}
+
+void DefinitionPlacer::place(const DefinitionObject& object, const RegisterEntry& values, LeftOver& left)
+{
     const int first = object.firstAddress();
     const int end = object.endAddress();
     RegisterSlots& slots = map.slots(object.space);

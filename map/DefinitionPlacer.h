@@ -34,7 +34,10 @@ private:
         UnvisitedAddresses swapLongs;
     };
 
-    void place(const DefinitionObject& object, LeftOver& left);
+    /// Tagname and description of each waiting object, in turn.
+    std::vector<InternedText> waitingTexts() const;
+
+    void place(const DefinitionObject& object, const RegisterEntry& values, LeftOver& left);
 
     RegisterMap& map;
     std::vector<DefinitionObject> waiting;

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,9 +40,34 @@ public:
     std::optional<int> find(InternedText name) const;
 
 private:
+    /// Twice the capacity, so that a search is short and always meets a free slot; a power of two.
+    static constexpr std::size_t slotCount = 2 * static_cast<std::size_t>(tagCapacity);
+    static constexpr std::int32_t freeSlot = -1;
+
+    /// Where the name's record is entered, or the free slot where it would be.
     std::size_t slotOf(InternedText name) const;
 
     std::vector<TagRecord> records;
     int filled = 0;
     std::vector<std::int32_t> firstByName; ///< open-addressing table of record indices
 };
+
+// Validation looks a name up for each of up to 262,144 slots: the search stands here so that it can be inlined.
+
+inline std::size_t TagTable::slotOf(InternedText name) const
+{
+    std::size_t slot = std::hash<InternedText>{}(name) & (slotCount - 1);
+    while (firstByName[slot] != freeSlot && records[static_cast<std::size_t>(firstByName[slot])].name != name)
+        slot = (slot + 1) & (slotCount - 1);
+    return slot;
+}
+
+inline std::optional<int> TagTable::find(InternedText name) const
+{
+    const std::int32_t index = firstByName[slotOf(name)];
+    if (index != freeSlot)
+        return index;
+    if (name.empty() && filled < tagCapacity)
+        return filled;
+    return std::nullopt;
+}

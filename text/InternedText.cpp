@@ -172,9 +172,3 @@ std::string_view InternedText::view() const
 {
     return entry == nullptr ? std::string_view() : contentOf(entry);
 }
-
-std::size_t std::hash<InternedText>::operator()(InternedText text) const noexcept
-{
-    // Entries are at least four bytes apart; the multiplier is the 64-bit golden ratio.
-    return (reinterpret_cast<std::uintptr_t>(text.entry) >> 2U) * 0x9E3779B97F4A7C15ULL >> 16U;
-}
