@@ -15,7 +15,7 @@ public:
     /// How many rows in view show something.
     int filledRows() const;
 
-    /// The rows in view that are painted as selected, which the grid does while it has the keyboard.
+    /// The rows in view that are painted as selected.
     std::vector<int> selectedRows() const;
 
     /// What its rows look like at this moment.

@@ -52,8 +52,13 @@ TEST_F(Moving, AShoveThatMeetsALockMovesNothing)
                                         "HOLDING,00019,NONE,INT16,PUMP2_RUN,Pump 2 runs,1,UNLOCKED,OK\n"
                                         "HOLDING,00020,NONE,INT16,PUMP_RUN,Pump runs,1,LOCKED,OK\n");
     program.mapGrid().select(0);
+    // Down against the lock, in vain; the way up is free.
     screen.pressKey("equal", Modifier::Control);
-    leaveWithoutQuestion();
+    screen.pressKey("minus", Modifier::Control);
+    leaveAnswering("Yes");
+    EXPECT_EQ(savedMap(), "HOLDING,00017,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
+                          "HOLDING,00019,NONE,INT16,PUMP2_RUN,Pump 2 runs,1,UNLOCKED,OK\n"
+                          "HOLDING,00020,NONE,INT16,PUMP_RUN,Pump runs,1,LOCKED,OK\n");
 }
 
 TEST_F(Moving, CompressClosesTheGapsOfTheSelectedRange)

@@ -265,6 +265,14 @@ void ProgramUnderTest::tick(const Control& dialog, const std::string& label)
         throw std::runtime_error("not ticked: " + label);
 }
 
+void ProgramUnderTest::openListed(const Control& chooser, const std::string& name)
+{
+    click(waitForControlIn(chooser, "file " + name,
+                           [&](const Control& control)
+                           { return control.role() == "table cell" && control.name() == name; }));
+    clickButton(chooser, "Open");
+}
+
 int ProgramUnderTest::waitForExit()
 {
     const std::optional<int> code = waitFor([&] { return process.exitCode(); });

@@ -75,6 +75,10 @@ public:
     /// @param label  what stands to the left of it
     void tick(const Control& dialog, const std::string& label);
 
+    /// Clicks a file in the list of a dialog for choosing files, and opens it.
+    /// @param name  without its folder
+    void openListed(const Control& chooser, const std::string& name);
+
     /// Waits until it has ended.
     /// @return its exit code
     int waitForExit();
