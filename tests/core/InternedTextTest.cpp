@@ -101,3 +101,24 @@ TEST(InternedText, EqualTextsHashEqually)
     EXPECT_TRUE(names.contains(InternedText("B")));
     EXPECT_FALSE(names.contains(InternedText("C")));
 }
+
+TEST(InternedText, ManyTextsAtOnceAreTheSameAsOneByOne)
+{
+    std::vector<std::string> contents{"known before", "", "twice", "twice", std::string("a\0b", 3)};
+    const InternedText known("known before");
+    for (int i = 0; i < 50'000; ++i)
+        contents.push_back("one of many " + std::to_string(i % 40'000));
+    const std::vector<std::string_view> views(contents.begin(), contents.end());
+    std::vector<InternedText> texts(contents.size());
+    InternedText::internAll(views, texts);
+
+    EXPECT_EQ(texts[0], known);
+    EXPECT_TRUE(texts[1].empty());
+    EXPECT_EQ(texts[2], texts[3]);
+    for (std::size_t i = 0; i < contents.size(); ++i)
+    {
+        ASSERT_EQ(texts[i].view(), contents[i]);
+        ASSERT_EQ(texts[i], InternedText(contents[i]));
+    }
+    InternedText::internAll({}, {});
+}
