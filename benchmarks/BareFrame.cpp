@@ -11,7 +11,7 @@ namespace
 wxGrid* createEmptyGrid(wxWindow* parent)
 {
     const wxColour background(32, 32, 32);
-    auto* const grid = new wxGrid(parent, wxID_ANY);
+    auto* const grid = new wxGrid(parent, wxID_ANY, wxDefaultPosition, wxSize(400, 300));
     grid->CreateGrid(0, 8);
     grid->SetRowLabelSize(0);
     grid->SetColLabelSize(0);

@@ -186,6 +186,6 @@ void addMapBenchmarks(RatioTable& table)
     table.add({.work = "takeSnapshot", .yardstick = "memcpy of the arrays", .ratio = 2}, 20, remember, copyMemory);
     table.add({.work = "purge a full map in error", .yardstick = "validateMap of that map", .ratio = 5}, 10, purge,
               validateInError);
-    table.add({.work = "replace in 65,536 tagnames", .yardstick = "validateMap of that map", .ratio = 5}, 10,
+    table.add({.work = "replace in 65,536 tagnames", .yardstick = "validateMap of that map", .ratio = 5}, 3,
               replaceAndValidate, validateSingles);
 }

@@ -43,6 +43,15 @@ std::string readPlainly(const fs::path& path)
     return bytes;
 }
 
+void forgetContents(const fs::path& path)
+{
+    const int file = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+    require(file >= 0, path);
+    const bool forgotten = ::fsync(file) == 0 && ::posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED) == 0;
+    ::close(file);
+    require(forgotten, path);
+}
+
 void writeAndSync(const fs::path& path, std::string_view bytes)
 {
     constexpr mode_t everybody = 0666;

@@ -23,6 +23,9 @@ private:
 /// Reads a file in the plainest way: one buffer of its size, one pass.
 std::string readPlainly(const std::filesystem::path& path);
 
+/// Takes a file out of the system's memory, so that it is read from the disk next.
+void forgetContents(const std::filesystem::path& path);
+
 /// Writes a file in the plainest way and waits until the disk has it.
 void writeAndSync(const std::filesystem::path& path, std::string_view bytes);
 

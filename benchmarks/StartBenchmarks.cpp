@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
+#include <thread>
 
 namespace
 {
@@ -31,20 +32,30 @@ bool windowIsPainted()
     return mostlyBackground(row.data(), middle) && mostlyBackground(middle, row.data() + row.size());
 }
 
+/// Every look at the screen takes time of its server, which the starting program needs.
+void waitBeforeNextLook()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+}
+
 /// Measures from the command to the first paint; sets the counter "rss_mb".
 void startProgram(benchmark::State& state, const std::vector<std::string>& command)
 {
     std::optional<ChildProcess> program;
     double residentMb = 0;
+    const auto end = [&]
+    {
+        if (program)
+            residentMb = std::max(residentMb, program->residentMb());
+        program.reset();
+    };
     measure(
         state,
         [&]
         {
-            if (program)
-                residentMb = std::max(residentMb, program->residentMb());
-            program.reset();
+            end();
             while (windowIsPainted())
-                continue;
+                waitBeforeNextLook();
         },
         [&]
         {
@@ -53,10 +64,10 @@ void startProgram(benchmark::State& state, const std::vector<std::string>& comma
             {
                 if (!program->isRunning())
                     return state.SkipWithError("the program has ended");
+                waitBeforeNextLook();
             }
         });
-    if (program)
-        residentMb = std::max(residentMb, program->residentMb());
+    end();
     state.counters["rss_mb"] = residentMb;
 }
 

@@ -30,9 +30,9 @@ public:
 void runBenchmarks()
 {
     RatioTable table;
+    addFileBenchmarks(table); // first: the fewer texts there are, the more the loading is like that of a start
     addMapBenchmarks(table);
     addEditingBenchmarks(table);
-    addFileBenchmarks(table);
     addFilterBenchmarks(table);
     addGridBenchmarks(table);
     addCommandBenchmarks(table);
