@@ -86,7 +86,7 @@ private:
 
     void reserve(std::size_t further)
     {
-        while ((count + further) * 2 > slots.size())
+        while ((count + further) * 4 > slots.size() * 3)
             grow();
     }
 
