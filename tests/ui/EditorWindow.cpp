@@ -8,6 +8,7 @@
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>
 #include <wx/panel.h>
+#include <wx/stattext.h>
 #include <wx/uiaction.h>
 
 #include <fstream>
@@ -99,6 +100,13 @@ void EditorWindow::focusMapGrid()
 {
     mapGrid->SetFocus();
     EXPECT_TRUE(waitUntil([this] { return mapGrid->GetGridWindow()->HasFocus(); }));
+}
+
+void EditorWindow::nextView()
+{
+    const wxString before = viewLabel->GetLabel();
+    pressKey(WXK_SPACE);
+    EXPECT_TRUE(waitUntil([&] { return viewLabel->GetLabel() != before; }));
 }
 
 PlantFiles::PlantFiles(std::string_view definition)

@@ -43,6 +43,10 @@ public:
 
     /// Gives the keyboard to the map grid and waits until it has it.
     void focusMapGrid();
+
+    /// Presses the space key in the map grid and waits for the next view.
+    /// Keys and clicks arrive in order: whatever was pressed before has then done what it does.
+    void nextView();
 };
 
 /// A tag database and a map definition file in a folder of their own.
