@@ -11,10 +11,10 @@ namespace
 wxGrid* createEmptyGrid(wxWindow* parent)
 {
     const wxColour background(32, 32, 32);
-    auto* const grid = new wxGrid(parent, wxID_ANY, wxDefaultPosition, wxSize(400, 300));
-    grid->CreateGrid(0, 8);
-    grid->SetRowLabelSize(0);
-    grid->SetColLabelSize(0);
+    auto* const grid = new wxGrid(parent, wxID_ANY);
+    grid->CreateGrid(0, 0);
+    grid->HideRowLabels();
+    grid->HideColLabels();
     grid->SetBackgroundColour(background);
     grid->SetDefaultCellBackgroundColour(background);
     return grid;
