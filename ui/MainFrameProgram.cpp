@@ -14,6 +14,22 @@
 #include <wx/stdpaths.h>
 #include <wx/utils.h>
 
+namespace
+{
+
+/// Shows the toolkit's own about box and waits until it is closed.
+/// The toolkit's functions show a box that waits on some desktops only, and that deletes itself on the others.
+void showUntilClosed(const wxAboutDialogInfo& about)
+{
+    wxGenericAboutDialog box(about);
+    box.Bind(
+        wxEVT_BUTTON, [&box](wxCommandEvent&) { box.EndModal(wxID_OK); }, wxID_OK);
+    box.Bind(wxEVT_CLOSE_WINDOW, [&box](wxCloseEvent&) { box.EndModal(wxID_CANCEL); });
+    box.ShowModal();
+}
+
+} // namespace
+
 void MainFrame::exitAndSave()
 {
     if (map.isModified() && wxMessageBox("Save changes ?", confirmationCaption, wxYES_NO) == wxYES && !saveDefinition())
@@ -52,8 +68,7 @@ void MainFrame::showAbout()
     about.SetDescription("Modbus map editor for Varnok and Dravel products");
     about.SetCopyright("Copyright (C) 2026 BELTHORNE LTD");
     about.SetWebSite("https://www.belthorne.example");
-    // The box that the toolkit draws itself: the desktop's own does not wait until it is closed.
-    wxGenericAboutBox(about);
+    showUntilClosed(about);
 }
 
 void MainFrame::showHelp()
