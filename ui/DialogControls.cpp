@@ -35,6 +35,8 @@ wxStaticText* createLabel(wxWindow* parent, const wxString& text)
     auto* const label = new wxStaticText(parent, wxID_ANY, text);
     label->SetFont(theme::semibold(10));
     label->SetForegroundColour(theme::colour(theme::title));
+    // A label that is hidden while its window appears is measured in another font by the toolkit with GTK.
+    label->SetMinSize(wxSize(label->GetTextExtent(text).GetWidth(), -1));
     return label;
 }
 
