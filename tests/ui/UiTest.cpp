@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/arrstr.h>
 #include <wx/evtloop.h>
 #include <wx/msgdlg.h>
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 #include <vector>
@@ -37,6 +39,28 @@ std::string describe(const wxWindow& control)
     return modelText(control.GetClassInfo()->GetClassName()) + (" \"" + modelText(control.GetLabel()) + "\"");
 }
 
+/// Whether a control has got its place; a window that has just appeared has a moment without any room in it.
+bool isPlaced(const wxWindow& control)
+{
+    return control.IsShownOnScreen() && !control.GetRect().IsEmpty();
+}
+
+bool isLaidOut(const wxWindow& window)
+{
+    const wxWindowList& children = window.GetChildren();
+    return std::all_of(children.begin(), children.end(),
+                       [](const wxWindow* child) { return !child->IsShown() || isPlaced(*child); });
+}
+
+/// Pixels of the longest line of a control's label.
+int labelWidth(const wxWindow& control)
+{
+    int width = 0;
+    for (const wxString& line : wxSplit(control.GetLabel(), '\n', '\0'))
+        width = std::max(width, control.GetTextExtent(line).GetWidth());
+    return width;
+}
+
 } // namespace
 
 bool waitUntil(const std::function<bool()>& condition)
@@ -63,7 +87,7 @@ void pressKey(int key, int modifiers)
 
 void clickOn(const wxWindow& control)
 {
-    EXPECT_TRUE(waitUntil([&control] { return control.IsShownOnScreen(); })) << describe(control);
+    EXPECT_TRUE(waitUntil([&control] { return isPlaced(control); })) << describe(control);
     const wxRect rect = control.GetScreenRect();
     wxUIActionSimulator simulator;
     simulator.MouseMove(rect.x + rect.width / 2, rect.y + rect.height / 2);
@@ -94,7 +118,7 @@ void expectCleanLayout(const wxWindow& window)
         if (!child->IsShown() || child->IsTopLevel())
             continue;
         EXPECT_TRUE(inside.Contains(child->GetRect())) << describe(*child) << " is cut off";
-        EXPECT_GE(child->GetSize().GetWidth(), child->GetEffectiveMinSize().GetWidth()) << describe(*child);
+        EXPECT_GE(child->GetSize().GetWidth(), labelWidth(*child)) << describe(*child) << " is clipped";
         for (const wxWindow* const other : visible)
         {
             EXPECT_FALSE(other->GetRect().Intersects(child->GetRect()))
@@ -136,7 +160,8 @@ void DialogScript::Exit(wxDialog* dialog)
 void DialogScript::play()
 {
     wxDialog& dialog = *shown;
-    EXPECT_TRUE(waitUntil([&dialog] { return dialog.IsActive(); })) << describe(dialog) << " never got the keyboard";
+    EXPECT_TRUE(waitUntil([&dialog] { return dialog.IsActive() && isLaidOut(dialog); }))
+        << describe(dialog) << " never got the keyboard";
     steps(dialog);
     if (waitUntil([&dialog] { return !dialog.IsModal(); }))
         return;

@@ -34,7 +34,7 @@ void typeOver(wxTextCtrl& field, const std::string& text);
 /// Closes a window the way its close box does.
 void pressCloseBox(wxWindow& window);
 
-/// Fails the test where a visible control is cut off, overlaps another one, or is smaller than its text needs.
+/// Fails the test where a visible control is cut off, overlaps another one, or is narrower than its label.
 void expectCleanLayout(const wxWindow& window);
 
 /// Works the next modal dialog as its user would: the steps run once it is shown and has the keyboard.
