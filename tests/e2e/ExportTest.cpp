@@ -24,7 +24,8 @@ protected:
         program.clickTool("Export map to text file");
         const Control chooser = program.waitForWindow(chooserTitle);
         program.typeInto(chooser, "Name:", path.string());
-        program.clickButton(chooser, "Save");
+        // The list of completions that may be open would take a click on the button for itself.
+        screen.pressKey("Return");
         program.waitUntilClosed(chooserTitle);
     }
 };
@@ -66,9 +67,9 @@ TEST_F(Export, CancellingWritesNothing)
     ProgramUnderTest& program = openMapToExport();
     program.clickTool("Export map to text file");
     const Control chooser = program.waitForWindow(chooserTitle);
-    program.typeInto(chooser, "Name:", (folder / "export.csv").string());
     program.clickButton(chooser, "Cancel");
     program.waitUntilClosed(chooserTitle);
     leaveWithoutQuestion();
-    EXPECT_FALSE(fs::exists(folder / "export.csv"));
+    for (const auto& file : fs::recursive_directory_iterator(folder))
+        EXPECT_NE(file.path().filename(), "data.csv");
 }
