@@ -24,7 +24,14 @@ constexpr std::chrono::seconds patience(30);
 /// Milliseconds for which a wait for events lasts before the condition is looked at again.
 constexpr unsigned long eventWait = 10;
 
-/// The dialog that a script is going to work.
+/// Reads the caption that a message box was made with, which it does not tell of itself.
+class CaptionReader : public wxMessageDialogBase
+{
+public:
+    static std::string captionOf(const wxMessageDialogBase& box) { return modelText(box.*(&CaptionReader::m_caption)); }
+};
+
+/// The dialog that something waits for.
 const wxDialog* expectedDialog = nullptr;
 
 std::string describe(const wxDialog& dialog)
@@ -188,6 +195,35 @@ int MessageBoxAnswer::Enter(wxDialog* dialog)
     ++asked;
     message = modelText(box->GetMessage());
     return button;
+}
+
+MessageBoxKey::MessageBoxKey(wxTopLevelWindow& window, int key) : asking(window), answer(key)
+{
+    Register();
+}
+
+int MessageBoxKey::Enter(wxDialog* dialog)
+{
+    const auto* const box = dynamic_cast<const wxMessageDialogBase*>(dialog);
+    if (!box || ended)
+        return wxID_NONE;
+    expectedDialog = dialog;
+    text = modelText(box->GetMessage());
+    title = CaptionReader::captionOf(*box);
+    boxParent = box->GetParent();
+    // The desktop draws the box and tells the toolkit nothing but that its own window has lost the keyboard.
+    asking.CallAfter(
+        [this]
+        {
+            EXPECT_TRUE(waitUntil([this] { return !asking.IsActive(); })) << "the box never got the keyboard";
+            pressKey(answer);
+        });
+    return wxID_NONE;
+}
+
+void MessageBoxKey::Exit(wxDialog*)
+{
+    ended = true;
 }
 
 int UnexpectedDialogs::Enter(wxDialog* dialog)

@@ -86,6 +86,36 @@ private:
     std::string message;
 };
 
+/// Answers the next message box with a key, as its user would, and keeps what it said.
+class MessageBoxKey : private wxModalDialogHook
+{
+public:
+    /// @param window  the window that has the keyboard before the box is shown
+    /// @param key     a key code of the toolkit
+    MessageBoxKey(wxTopLevelWindow& window, int key);
+
+    /// Whether the box has been shown and is closed again.
+    bool hasEnded() const { return ended; }
+
+    const std::string& message() const { return text; }
+    const std::string& caption() const { return title; }
+
+    /// The window that the box belongs to; none before it is shown.
+    const wxWindow* parent() const { return boxParent; }
+
+protected:
+    int Enter(wxDialog* dialog) override;
+    void Exit(wxDialog* dialog) override;
+
+private:
+    wxTopLevelWindow& asking;
+    int answer;
+    bool ended = false;
+    std::string text;
+    std::string title;
+    const wxWindow* boxParent = nullptr;
+};
+
 /// Fails the test when a modal dialog is shown that nothing waits for, and answers Cancel in its place.
 /// The test program keeps one for its whole run.
 class UnexpectedDialogs : private wxModalDialogHook
