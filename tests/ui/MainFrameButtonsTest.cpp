@@ -76,6 +76,7 @@ std::vector<Control*> leftToRight(const wxWindow& parent)
 std::vector<std::string> tooltips(const std::vector<wxBitmapButton*>& buttons)
 {
     std::vector<std::string> texts;
+    texts.reserve(buttons.size());
     for (const wxBitmapButton* const button : buttons)
         texts.push_back(modelText(button->GetToolTipText()));
     return texts;
@@ -84,6 +85,7 @@ std::vector<std::string> tooltips(const std::vector<wxBitmapButton*>& buttons)
 std::vector<std::string> tooltips(const std::vector<ExpectedButton>& buttons)
 {
     std::vector<std::string> texts;
+    texts.reserve(buttons.size());
     for (const ExpectedButton& button : buttons)
         texts.emplace_back(button.tooltip);
     return texts;
@@ -140,6 +142,7 @@ std::vector<wxStaticText*> titlesOf(const wxGrid& grid)
 std::vector<std::string> texts(const std::vector<wxStaticText*>& labels)
 {
     std::vector<std::string> found;
+    found.reserve(labels.size());
     for (const wxStaticText* const label : labels)
         found.push_back(modelText(label->GetLabelText()));
     return found;
@@ -148,6 +151,7 @@ std::vector<std::string> texts(const std::vector<wxStaticText*>& labels)
 std::vector<std::string> columnLabels(wxGrid& grid)
 {
     std::vector<std::string> labels;
+    labels.reserve(static_cast<std::size_t>(grid.GetNumberCols()));
     for (int column = 0; column < grid.GetNumberCols(); ++column)
         labels.push_back(modelText(grid.GetColLabelValue(column)));
     return labels;
