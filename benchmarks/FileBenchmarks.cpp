@@ -25,16 +25,18 @@ void loadDatabase(benchmark::State& state)
 {
     const ScratchFolder folder;
     const auto path = folder.file("plant.json");
-    measure(
+    int tagCount = 0;
+    measureApart(
         state, [&] { writeInput(path, unseenDatabase()); },
         [&]
         {
             TagDatabase database;
-            if (loadTagDatabase(path, database) != LoadResult::Loaded || database.tags.count() != tagCapacity)
-                state.SkipWithError("the database is not loaded");
+            benchmark::DoNotOptimize(loadTagDatabase(path, database));
             const TagSearchIndex index(database.tags);
             benchmark::DoNotOptimize(&index);
-        });
+            tagCount = database.tags.count();
+        },
+        [&] { return tagCount == tagCapacity; });
 }
 
 void parseJson(benchmark::State& state)
@@ -148,8 +150,8 @@ void addFileBenchmarks(RatioTable& table)
               parseJson);
     table.add({.work = "load a map of 65,536 objects, from disk", .yardstick = "read the same bytes", .ratio = 6}, 5,
               loadingMap(FileIn::Disk), readingMapFile(FileIn::Disk));
-    table.add({.work = "load it when read before", .yardstick = "read the same bytes", .ratio = 6}, 5,
-              loadingMap(FileIn::Memory), readingMapFile(FileIn::Memory));
+    table.add({.work = "load it when read before", .yardstick = "read the same bytes"}, 5, loadingMap(FileIn::Memory),
+              readingMapFile(FileIn::Memory));
     table.add({.work = "save it", .yardstick = sameBytes, .ratio = 4}, 5, writing(saveDefinitionFile, "map.csv"),
               writingTheSame(definitionText));
     table.add({.work = "export it as CSV", .yardstick = sameBytes, .ratio = 4}, 5, writing(exportTo, "map.csv"),

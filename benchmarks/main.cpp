@@ -30,7 +30,7 @@ public:
 void runBenchmarks()
 {
     RatioTable table;
-    addFileBenchmarks(table); // first: the fewer texts there are, the more the loading is like that of a start
+    addFileBenchmarks(table);
     addMapBenchmarks(table);
     addEditingBenchmarks(table);
     addFilterBenchmarks(table);

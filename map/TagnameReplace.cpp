@@ -2,31 +2,59 @@
 
 #include "map/SlotAccess.h"
 
+#include <vector>
+
 namespace
 {
 
-/// Renames texts, remembering the last one: the slots of an object follow each other and share one name.
+/// Renames slots, some names at a time, because new names are quicker made together than one by one.
 class Renamer
 {
 public:
     Renamer(std::string_view wanted, std::string_view substitute) : find(wanted), replacement(substitute) {}
 
-    InternedText rename(InternedText name)
+    /// Notes a name for renaming.
+    /// @param tagname  none that is noted already; stays where it is until `finish`
+    void rename(InternedText& tagname)
     {
-        if (name == lastName)
-            return lastResult;
-        lastName = name;
-        lastResult = name.view().find(find) == std::string_view::npos
-                         ? name
-                         : InternedText(replaceAll(name.view(), find, replacement));
-        return lastResult;
+        // The slots of an object follow each other and share one name.
+        if (newNames.empty() || tagname != lastName)
+        {
+            if (newNames.size() == batchSize)
+                finish();
+            lastName = tagname;
+            newNames.push_back(replaceAll(tagname.view(), find, replacement));
+        }
+        noted.push_back({&tagname, newNames.size() - 1});
+    }
+
+    /// Gives every noted name its new text.
+    void finish()
+    {
+        const std::vector<std::string_view> texts(newNames.begin(), newNames.end());
+        std::vector<InternedText> results(texts.size());
+        InternedText::internAll(texts, results);
+        for (const auto& [tagname, index] : noted)
+            *tagname = results[index];
+        newNames.clear();
+        noted.clear();
     }
 
 private:
+    /// Few enough for the processor's first caches.
+    static constexpr std::size_t batchSize = 256;
+
+    struct NotedName
+    {
+        InternedText* tagname;
+        std::size_t newName; ///< index in `newNames`
+    };
+
     std::string_view find;
     std::string_view replacement;
     InternedText lastName;
-    InternedText lastResult;
+    std::vector<std::string> newNames;
+    std::vector<NotedName> noted;
 };
 
 } // namespace
@@ -50,11 +78,16 @@ void replaceInTagnames(RegisterSlots& slots, std::span<const int> addresses, std
                        std::string_view replacement)
 {
     Renamer renamer(find, replacement);
+    int previous = -1;
     for (const int address : addresses)
     {
         if (!isAddress(address) || slotAt(slots, address).locked)
             continue;
-        InternedText& tagname = slotAt(slots, address).tagname;
-        tagname = renamer.rename(tagname);
+        // A slot that is listed again goes on from what it was renamed to.
+        if (address <= previous)
+            renamer.finish();
+        previous = address;
+        renamer.rename(slotAt(slots, address).tagname);
     }
+    renamer.finish();
 }

@@ -143,3 +143,27 @@ TEST(TagnameReplace, TextBeyondAsciiIsTakenAsItIs)
     replaceInTagnames(*slots, std::vector{10}, "ü", "ue");
     EXPECT_EQ(nameAt(*slots, 10), "Kuehler_Öl");
 }
+
+TEST(TagnameReplace, SlotListedAgainIsRenamedAgain)
+{
+    const auto slots = named({"A", "A"});
+    replaceInTagnames(*slots, std::vector{10, 11, 11, 10, 10}, "A", "AA");
+    EXPECT_EQ(nameAt(*slots, 10), "AAAAAAAA");
+    EXPECT_EQ(nameAt(*slots, 11), "AAAA");
+}
+
+TEST(TagnameReplace, EveryOneOfManyDifferentNamesIsRenamed)
+{
+    constexpr int count = 1000;
+    std::vector<std::string> names;
+    std::vector<int> addresses;
+    for (int i = 0; i < count; ++i)
+    {
+        names.push_back("PUMP" + std::to_string(i));
+        addresses.push_back(10 + i);
+    }
+    const auto slots = named(names);
+    replaceInTagnames(*slots, addresses, "PUMP", "FAN");
+    for (int i = 0; i < count; ++i)
+        EXPECT_EQ(nameAt(*slots, 10 + i), "FAN" + std::to_string(i));
+}
