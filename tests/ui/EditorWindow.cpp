@@ -36,10 +36,10 @@ void collectButtons(const wxWindow& window, const wxString& tooltip, std::vector
 {
     for (wxWindow* const child : window.GetChildren())
     {
+        collectButtons(*child, tooltip, found);
         auto* const button = dynamic_cast<wxBitmapButton*>(child);
         if (button && button->GetToolTipText() == tooltip)
             found.push_back(button);
-        collectButtons(*child, tooltip, found);
     }
 }
 
@@ -74,6 +74,7 @@ std::string EditorWindow::cell(int row, int column) const
 std::vector<std::string> EditorWindow::shownRows() const
 {
     std::vector<std::string> rows;
+    rows.reserve(static_cast<std::size_t>(mapGrid->GetNumberRows()));
     for (int row = 0; row < mapGrid->GetNumberRows(); ++row)
         rows.push_back(cell(row, 1));
     return rows;
