@@ -4,11 +4,11 @@
 #include "benchmarks/DrivenFrame.h"
 #include "benchmarks/FullSize.h"
 #include "benchmarks/Measure.h"
-#include "map/MapGridTable.h"
 #include "map/MapRow.h"
 #include "map/MapView.h"
 #include "map/Validation.h"
-#include "source/ToolkitText.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/MapGridTable.h"
 
 #include <wx/frame.h>
 #include <wx/grid.h>

@@ -1,12 +1,12 @@
 #include "map/DefinitionFile.h"
 
+#include "files/ReadFile.h"
+#include "files/SafeWrite.h"
 #include "map/DefinitionPlacer.h"
 #include "map/PublishedName.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
-#include "text/ReadFile.h"
-#include "text/SafeWrite.h"
 
 #include <array>
 #include <cstdint>

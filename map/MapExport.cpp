@@ -1,9 +1,9 @@
 #include "map/MapExport.h"
 
+#include "files/SafeWrite.h"
 #include "map/PublishedName.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
-#include "text/SafeWrite.h"
 #include "text/Utf8.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "source/TagDatabaseBuilder.h"
 
-#include "source/JsonNumber.h"
+#include "json/JsonNumber.h"
 #include "text/Integers.h"
 
 #include <algorithm>

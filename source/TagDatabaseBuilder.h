@@ -1,8 +1,8 @@
 #pragma once
 
+#include "json/TolerantJson.h"
 #include "source/TagBatch.h"
 #include "source/TagDatabase.h"
-#include "source/TolerantJson.h"
 
 #include <cstddef>
 #include <string>

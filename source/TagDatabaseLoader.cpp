@@ -1,8 +1,8 @@
 #include "source/TagDatabaseLoader.h"
 
+#include "files/ReadFile.h"
 #include "source/TagDatabaseBuilder.h"
 #include "text/Decode.h"
-#include "text/ReadFile.h"
 
 #include <exception>
 #include <utility>

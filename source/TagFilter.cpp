@@ -1,8 +1,8 @@
 #include "source/TagFilter.h"
 
-#include "source/UpperCase.h"
-#include "source/Wildcard.h"
 #include "text/FindBytes.h"
+#include "text/UpperCase.h"
+#include "text/Wildcard.h"
 
 #include <algorithm>
 

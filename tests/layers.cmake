@@ -1,13 +1,17 @@
-# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> text.
+# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> json -> files -> text;
+# and that nothing below ui/ includes a toolkit header.
 # Run as a script: cmake -DSOURCE_DIR=dir -P layers.cmake
 
-set(layers text source map ui app)
+cmake_minimum_required(VERSION 3.25)
+
+set(layers text files json source map ui app)
+set(toolkit_layers ui app)
 set(below "")
 set(offences "")
 foreach(layer IN LISTS layers)
     list(APPEND below "${layer}")
     list(JOIN below "|" allowed)
-    file(GLOB files "${SOURCE_DIR}/${layer}/*.h" "${SOURCE_DIR}/${layer}/*.cpp")
+    file(GLOB_RECURSE files "${SOURCE_DIR}/${layer}/*.h" "${SOURCE_DIR}/${layer}/*.cpp")
     foreach(path IN LISTS files)
         file(STRINGS "${path}" includes REGEX "^#include \"")
         foreach(line IN LISTS includes)
@@ -15,8 +19,14 @@ foreach(layer IN LISTS layers)
                 string(APPEND offences "${path}: ${line}\n")
             endif()
         endforeach()
+        if(NOT layer IN_LIST toolkit_layers)
+            file(STRINGS "${path}" includes REGEX "^#include <(wx|gtk|gdk|glib)[/.]")
+            foreach(line IN LISTS includes)
+                string(APPEND offences "${path}: ${line}\n")
+            endforeach()
+        endif()
     endforeach()
 endforeach()
 if(offences)
-    message(FATAL_ERROR "Includes that point upwards:\n${offences}")
+    message(FATAL_ERROR "Includes that point upwards, or at the toolkit from below ui/:\n${offences}")
 endif()

@@ -1,16 +1,16 @@
 #include "ui/MainFrame.h"
 
 #include "map/DefinitionFile.h"
-#include "map/MapGridTable.h"
 #include "map/Validation.h"
 #include "source/TagDatabaseLoader.h"
-#include "source/TagGridTable.h"
-#include "source/ToolkitText.h"
 #include "ui/ImageButton.h"
 #include "ui/NamedImages.h"
 #include "ui/Paths.h"
 #include "ui/SpaceButtons.h"
 #include "ui/Theme.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/MapGridTable.h"
+#include "ui/grid/TagGridTable.h"
 
 #include <wx/grid.h>
 #include <wx/msgdlg.h>

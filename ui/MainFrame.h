@@ -3,10 +3,10 @@
 #include "map/DefaultByteOrder.h"
 #include "map/RegisterMap.h"
 #include "map/RegisterMoves.h"
-#include "source/SourceBrowser.h"
 #include "source/TagDatabase.h"
 #include "ui/FileChooser.h"
 #include "ui/MainFrameBase.h"
+#include "ui/SourceBrowser.h"
 #include "ui/StartupValues.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #include "ui/MainFrameBase.h"
 
-#include "source/RowCellRenderer.h"
-#include "ui/GridHeader.h"
 #include "ui/Theme.h"
+#include "ui/grid/GridHeader.h"
+#include "ui/grid/RowCellRenderer.h"
 
 #include <wx/grid.h>
 #include <wx/scrolwin.h>

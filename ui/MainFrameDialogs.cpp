@@ -4,11 +4,11 @@
 #include "map/SlotAccess.h"
 #include "map/TagnameReplace.h"
 #include "map/Validation.h"
-#include "source/ToolkitText.h"
 #include "ui/MainFrame.h"
 #include "ui/RegisterEditor.h"
 #include "ui/SettingsDialog.h"
 #include "ui/TagSearchAndReplaceDialog.h"
+#include "ui/ToolkitText.h"
 
 #include <wx/grid.h>
 #include <wx/textctrl.h>

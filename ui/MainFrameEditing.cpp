@@ -4,11 +4,11 @@
 #include "map/Compress.h"
 #include "map/ErrorPurge.h"
 #include "map/Locks.h"
-#include "map/MapGridTable.h"
-#include "map/Messages.h"
 #include "map/TagPlacing.h"
 #include "map/Validation.h"
 #include "ui/MainFrame.h"
+#include "ui/Messages.h"
+#include "ui/grid/MapGridTable.h"
 
 #include <wx/grid.h>
 #include <wx/msgdlg.h>

@@ -2,8 +2,8 @@
 
 #include "map/DefinitionFile.h"
 #include "map/MapExport.h"
-#include "map/Messages.h"
 #include "ui/MainFrame.h"
+#include "ui/Messages.h"
 #include "ui/Paths.h"
 
 #include <wx/aboutdlg.h>

@@ -1,15 +1,15 @@
 // The map grid: what it shows, what is selected in it, and its keys.
 
-#include "map/MapGridTable.h"
 #include "map/MapView.h"
 #include "map/Selection.h"
 #include "map/Validation.h"
-#include "source/GridSelection.h"
-#include "source/ToolkitText.h"
 #include "ui/MainFrame.h"
 #include "ui/NamedImages.h"
 #include "ui/SpaceButtons.h"
 #include "ui/Theme.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/GridSelection.h"
+#include "ui/grid/MapGridTable.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>

@@ -1,7 +1,7 @@
 #include "ui/NamedImages.h"
 
-#include "source/ToolkitText.h"
 #include "ui/EmbeddedFiles.h"
+#include "ui/ToolkitText.h"
 
 #include <wx/bitmap.h>
 #include <wx/image.h>

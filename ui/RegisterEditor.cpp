@@ -1,8 +1,8 @@
 #include "ui/RegisterEditor.h"
 
-#include "source/ToolkitText.h"
 #include "ui/ByteSwapHelp.h"
 #include "ui/DialogControls.h"
+#include "ui/ToolkitText.h"
 
 #include <wx/button.h>
 #include <wx/checkbox.h>

@@ -1,9 +1,9 @@
 #include "map/Clipboard.h"
 
-#include "map/Messages.h"
 #include "map/RegisterMoves.h"
 #include "map/Selection.h"
 #include "tests/core/MapBuilder.h"
+#include "ui/Messages.h"
 
 #include <gtest/gtest.h>
 

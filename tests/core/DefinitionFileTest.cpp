@@ -1,9 +1,9 @@
 #include "map/DefinitionFile.h"
 
+#include "files/ReadFile.h"
 #include "map/Validation.h"
 #include "tests/core/TempFolder.h"
 #include "text/Lines.h"
-#include "text/ReadFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "source/JsonNumber.h"
+#include "json/JsonNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "text/ReadFile.h"
+#include "files/ReadFile.h"
 
 #include "tests/core/TempFolder.h"
 

@@ -1,4 +1,4 @@
-#include "source/StrictJson.h"
+#include "json/StrictJson.h"
 
 #include <gtest/gtest.h>
 

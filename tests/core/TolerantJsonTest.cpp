@@ -1,4 +1,4 @@
-#include "source/TolerantJson.h"
+#include "json/TolerantJson.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "source/UpperCase.h"
+#include "text/UpperCase.h"
 
 #include <gtest/gtest.h>
 

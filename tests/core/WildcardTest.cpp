@@ -1,4 +1,4 @@
-#include "source/Wildcard.h"
+#include "text/Wildcard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // What the main window looks like before anything is done: buttons, titles, columns, sash.
 
-#include "source/ToolkitText.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
-#include "ui/GridHeader.h"
 #include "ui/NamedImages.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/GridHeader.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>

@@ -1,8 +1,8 @@
 // Commands that ask for a file or show a box about the program: export, help, about.
 
-#include "source/ToolkitText.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
+#include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>

@@ -1,8 +1,8 @@
 #include "map/SlotAccess.h"
-#include "source/ToolkitText.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 #include "ui/NamedImages.h"
+#include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>

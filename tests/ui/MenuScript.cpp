@@ -1,7 +1,7 @@
 #include "tests/ui/MenuScript.h"
 
-#include "source/ToolkitText.h"
 #include "tests/ui/UiTest.h"
+#include "ui/ToolkitText.h"
 
 #include <wx/menu.h>
 #include <wx/uiaction.h>

@@ -1,7 +1,7 @@
 #include "ui/RegisterEditor.h"
 
-#include "source/ToolkitText.h"
 #include "tests/ui/UiTest.h"
+#include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/button.h>

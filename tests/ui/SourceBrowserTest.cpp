@@ -1,8 +1,8 @@
-#include "source/GridSelection.h"
-#include "source/ToolkitText.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/GridSelection.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>

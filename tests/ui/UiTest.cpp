@@ -1,6 +1,6 @@
 #include "tests/ui/UiTest.h"
 
-#include "source/ToolkitText.h"
+#include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/app.h>

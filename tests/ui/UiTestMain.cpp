@@ -1,8 +1,8 @@
 // Runs the tests inside the toolkit's application object, with an event loop under them.
 
-#include "source/ToolkitText.h"
 #include "tests/ui/UiTest.h"
 #include "ui/Desktop.h"
+#include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
 #include <wx/app.h>

@@ -1,4 +1,4 @@
-#include "source/GridSelection.h"
+#include "ui/grid/GridSelection.h"
 
 #include <wx/grid.h>
 

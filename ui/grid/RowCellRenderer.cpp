@@ -1,4 +1,4 @@
-#include "source/RowCellRenderer.h"
+#include "ui/grid/RowCellRenderer.h"
 
 #include <wx/dc.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "source/GridCellStyles.h"
 #include "source/TagDatabase.h"
+#include "ui/grid/GridCellStyles.h"
 
 #include <wx/grid.h>
 

@@ -1,6 +1,6 @@
-#include "source/StrictJson.h"
+#include "json/StrictJson.h"
 
-#include "source/JsonNumber.h"
+#include "json/JsonNumber.h"
 #include "text/Characters.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
-#include "map/MapGridTable.h"
+#include "ui/grid/MapGridTable.h"
 
 #include "map/MapRow.h"
-#include "source/ToolkitText.h"
-#include "source/VirtualRows.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/VirtualRows.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
-#include "source/TagGridTable.h"
+#include "ui/grid/TagGridTable.h"
 
 #include "source/TagRow.h"
-#include "source/ToolkitText.h"
-#include "source/VirtualRows.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/VirtualRows.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "source/GridCellStyles.h"
+#include "ui/grid/GridCellStyles.h"
 
 wxGridCellAttr* GridCellStyles::share(Rgb colour, int alignment)
 {

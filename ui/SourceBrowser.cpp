@@ -1,9 +1,9 @@
-#include "source/SourceBrowser.h"
+#include "ui/SourceBrowser.h"
 
-#include "source/GridSelection.h"
-#include "source/SourceTreeItem.h"
-#include "source/TagGridTable.h"
-#include "source/ToolkitText.h"
+#include "ui/SourceTreeItem.h"
+#include "ui/ToolkitText.h"
+#include "ui/grid/GridSelection.h"
+#include "ui/grid/TagGridTable.h"
 
 #include <wx/checkbox.h>
 #include <wx/grid.h>

@@ -1,6 +1,6 @@
-#include "source/TolerantJson.h"
+#include "json/TolerantJson.h"
 
-#include "source/StrictJson.h"
+#include "json/StrictJson.h"
 #include "text/Lines.h"
 
 #include <rapidjson/reader.h>

@@ -1,4 +1,4 @@
-#include "source/VirtualRows.h"
+#include "ui/grid/VirtualRows.h"
 
 #include <wx/grid.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "map/RegisterMap.h"
-#include "source/GridCellStyles.h"
+#include "ui/grid/GridCellStyles.h"
 
 #include <wx/grid.h>
 

@@ -1,4 +1,4 @@
-#include "ui/GridHeader.h"
+#include "ui/grid/GridHeader.h"
 
 #include "ui/Theme.h"
 

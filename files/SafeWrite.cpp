@@ -1,4 +1,4 @@
-#include "text/SafeWrite.h"
+#include "files/SafeWrite.h"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "text/ReadFile.h"
+#include "files/ReadFile.h"
 
 #include <array>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "source/Wildcard.h"
+#include "text/Wildcard.h"
 
 #include "text/FindBytes.h"
 #include "text/Utf8.h"
