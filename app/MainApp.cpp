@@ -1,11 +1,15 @@
 #include "app/MainApp.h"
 
-#include "app/CommandLine.h"
 #include "app/Installation.h"
 #include "ui/Desktop.h"
 #include "ui/MainFrame.h"
+#include "ui/OpenDocument.h"
+#include "ui/Paths.h"
 
 #include <wx/cmdline.h>
+#include <wx/msgdlg.h>
+
+#include <cstdlib>
 
 wxIMPLEMENT_APP(MainApp);
 
@@ -15,12 +19,30 @@ bool MainApp::OnInit()
     wxApp::OnInit();
     wxInitAllImageHandlers();
     desktop::preferDark();
-    auto* const frame = new MainFrame(startupValues, findInstallation);
+    const std::optional<wxString> suitePath = findInstallation();
+    if (!suitePath)
+    {
+        wxMessageBox("Cannot locate registry entries required by this program\n\n"
+                     "This program cannot continue and will now terminate",
+                     "Alert - Program cannot continue", wxOK | wxICON_ERROR);
+        return true; // without a document there is nothing to run
+    }
+    document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);
+    openDocument(*document);
+
+    auto* const frame = new MainFrame(*document, *suitePath);
     frame->SetTitle("Modbus Map Editor");
     frame->Maximize();
     frame->Show();
     frame->settleLayout();
     return true;
+}
+
+int MainApp::OnRun()
+{
+    // The user has been told why; whatever started the program is not to take that for a crash, as it would take an
+    // OnInit that fails (toolkit 3.2 then ends with -1).
+    return document ? wxApp::OnRun() : EXIT_SUCCESS;
 }
 
 void MainApp::OnInitCmdLine(wxCmdLineParser& parser)

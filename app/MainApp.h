@@ -1,17 +1,22 @@
 #pragma once
 
-#include "ui/StartupValues.h"
+#include "app/CommandLine.h"
+#include "map/Document.h"
 
 #include <wx/app.h>
 
-/// The application: takes the command line, opens the main window, lives as long as that does.
+#include <optional>
+
+/// The application: takes the command line, opens the document, shows it in the main window.
 class MainApp : public wxApp
 {
 public:
     bool OnInit() override;
+    int OnRun() override;
     void OnInitCmdLine(wxCmdLineParser& parser) override;
     bool OnCmdLineParsed(wxCmdLineParser& parser) override;
 
 private:
     StartupValues startupValues;
+    std::optional<Document> document; ///< the window shows it, and is gone before the application is
 };

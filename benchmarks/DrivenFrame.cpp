@@ -4,6 +4,7 @@
 #include "benchmarks/Screen.h"
 #include "map/DefinitionFile.h"
 #include "ui/MainFrame.h"
+#include "ui/OpenDocument.h"
 
 #include <wx/app.h>
 #include <wx/bmpbuttn.h>
@@ -36,7 +37,16 @@ void sendKey(wxWindow& window, int key, bool control)
 
 } // namespace
 
-DrivenFrame::DrivenFrame(const StartupValues& startup) : MainFrame(startup, [] { return wxString("/suite/"); }) {}
+DrivenDocument::DrivenDocument(const std::filesystem::path& database, const std::filesystem::path& definition)
+    : driven(database, definition, 0)
+{
+    openDocument(driven);
+}
+
+DrivenFrame::DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition)
+    : DrivenDocument(database, definition), MainFrame(driven, "/suite/")
+{
+}
 
 void DrivenFrame::press(int key)
 {
@@ -63,7 +73,7 @@ void DrivenFrame::filterBy(const wxString& text)
 
 void DrivenFrame::showAllRegisters()
 {
-    while (registerMap().viewMode != ViewMode::All)
+    while (driven.map.viewMode != ViewMode::All)
         press(WXK_SPACE);
 }
 
@@ -76,7 +86,7 @@ FrameOnScreen::FrameOnScreen()
     fillWithObjects(map);
     writeInput(definition, definitionText(map));
 
-    frame = new DrivenFrame({.databasePath = database.string(), .definitionPath = definition.string()});
+    frame = new DrivenFrame(database, definition);
     showMaximised(*frame, *frame->mapRows().GetGridWindow());
     frame->settleLayout();
     handleEvents();

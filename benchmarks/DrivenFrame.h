@@ -1,16 +1,26 @@
 #pragma once
 
 #include "benchmarks/ScratchFiles.h"
+#include "map/Document.h"
 #include "ui/MainFrame.h"
 
+#include <filesystem>
 #include <memory>
+
+/// The document of the driven window; a base class, so that it is still there when the window goes.
+struct DrivenDocument
+{
+    DrivenDocument(const std::filesystem::path& database, const std::filesystem::path& definition);
+
+    Document driven;
+};
 
 /// The main window on the full-size plant, driven as a user does: keys to the map grid, clicks on buttons, typing into
 /// the filter.
-class DrivenFrame : public MainFrame
+class DrivenFrame : private DrivenDocument, public MainFrame
 {
 public:
-    explicit DrivenFrame(const StartupValues& startup);
+    DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition);
 
     wxGrid& mapRows() { return *mapGrid; }
     wxGrid& tagRows() { return *sourceGrid; }

@@ -1,42 +1,64 @@
 #pragma once
 
-#include "map/DefaultByteOrder.h"
-#include "map/RegisterMap.h"
+#include "map/Document.h"
 #include "map/RegisterMoves.h"
-#include "source/TagDatabase.h"
 #include "ui/FileChooser.h"
 #include "ui/MainFrameBase.h"
 #include "ui/SourceBrowser.h"
-#include "ui/StartupValues.h"
 
 #include <array>
 #include <memory>
 #include <vector>
 
 class MapGridTable;
+struct Command;
+enum class ButtonBar;
 class wxBitmapButton;
 
-/// The main window: owns the document and the tag database, binds every control to a command.
+/// The main window: shows a document and runs the commands on it.
 ///
 /// Each command reads the selection, calls one operation of the model, shows the message that its result asks for and
-/// brings the view up to date; no rule is kept here.
+/// brings the view up to date; no rule is kept here. Which buttons, menu entries and keys run a command is written down
+/// in the table of commands.
 class MainFrame : public MainFrameBase
 {
 public:
-    /// Does the whole start-up: finds the installation, loads both files, shows the map.
-    /// @param findInstallation  where it finds none, an alert is shown and the program ends with exit code 0
-    MainFrame(const StartupValues& startup, const InstallationLookup& findInstallation);
-
-    ~MainFrame() override;
+    /// @param shownDocument  loaded; outlives the window
+    /// @param suitePath      the suite's installation path as stored, which ends in a separator of its own
+    /// @param fileChooser    how the user is asked for a file
+    MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser = chooseFileWithDialog);
 
     /// Puts the sash in the middle and gives the last columns their room; to be called once the window is shown.
     void settleLayout();
 
-    /// The document, for tests that change it as commands would.
-    RegisterMap& registerMap() { return map; }
+    // Commands on the selected registers.
+    void copyRegisters();
+    void cutRegisters();
+    void pasteRegisters();
+    void appendRegisters();
+    void deleteRegisters();
+    void moveRegisters(bool shoving, MoveDirection direction);
+    void compressRegisters();
+    void toggleLocks();
+    void replaceInTagnames();
+    void editRegister();
+    void selectAllRegisters();
 
-    /// Puts another way of choosing files in place of the desktop's dialog.
-    void setFileChooser(FileChooser chooser) { chooseFile = std::move(chooser); }
+    // Commands on the tag grid.
+    void copySourceTags();
+    void selectAllTags();
+
+    // Commands on the view and on the whole map.
+    void selectSpace(RegisterSpace space);
+    void toggleView();
+    void deleteErrorRegisters();
+
+    // Commands about the whole program.
+    void exportMap();
+    void editSettings();
+    void showAbout();
+    void showHelp();
+    void exitAndSave();
 
 protected:
     void OnSourceTreeSelChanged(wxTreeEvent& event) override;
@@ -50,68 +72,32 @@ protected:
     void OnTimer(wxTimerEvent& event) override;
 
 private:
-    using Command = void (MainFrame::*)();
-
-    // Start-up, in this order.
-    void findSuite(const InstallationLookup& findInstallation);
-    void loadDatabase(const wxString& path);
-    void loadMap();
     void createSourceBrowser();
     void connectMenus();
     void createButtons();
-    void createGlobalButtons();
     void createSpaceButtons();
-    void createMapButtons();
-    void addButton(wxWindow* parent, wxSizer& sizer, const wxString& name, const wxString& tooltip, Command command);
+    void createButton(const Command& command);
+    void addGap(wxSizer& sizer, const Command& command) const;
 
-    // The view.
     void refreshMapView(int scrollAddress);
     void refreshRows(const std::vector<int>& addresses);
-    void selectSpace(RegisterSpace space);
     void showSpaceButtons();
-    void toggleView();
     void refreshStatus();
     std::vector<int> selectedAddresses() const;
     std::vector<int> collectSelection() const;
     void reselectAddresses(std::vector<int> addresses);
-
-    // Editing commands.
-    void copySourceTags();
-    void copyRegisters();
-    void cutRegisters();
-    void pasteRegisters();
-    void appendRegisters();
-    void deleteRegisters();
-    void moveRegisters(bool shoving, MoveDirection direction);
-    void moveUp() { moveRegisters(false, MoveDirection::Up); }
-    void moveDown() { moveRegisters(false, MoveDirection::Down); }
-    void shoveUp() { moveRegisters(true, MoveDirection::Up); }
-    void shoveDown() { moveRegisters(true, MoveDirection::Down); }
-    void compressRegisters();
-    void toggleLocks();
-    void deleteErrorRegisters();
-    void replaceInTagnames();
-    void editRegister();
     void showMapContextMenu(wxMouseEvent& event);
-
-    // Commands about the whole program.
-    void exportMap();
-    void editSettings();
-    void showAbout();
-    void showHelp();
-    void exitAndSave();
     bool saveDefinition();
 
-    RegisterMap map;
-    TagDatabase database;
-    DefaultByteOrder defaultByteOrder;
-    wxString definitionPath;
-    wxString installationPath;
+    Document& document;
+    RegisterMap& map;
+    FileChooser chooseFile;
     wxString documentationFolder;
+
+    // State of the window that nothing reads.
     wxString deviceAddress;
     wxString secondDeviceAddress;
     wxString deviceName;
-    FileChooser chooseFile = chooseFileWithDialog;
 
     MapGridTable* mapTable = nullptr;
     std::unique_ptr<SourceBrowser> sourceBrowser;

@@ -3,7 +3,6 @@
 #include "map/RegisterEdit.h"
 #include "map/SlotAccess.h"
 #include "map/TagnameReplace.h"
-#include "map/Validation.h"
 #include "ui/MainFrame.h"
 #include "ui/RegisterEditor.h"
 #include "ui/SettingsDialog.h"
@@ -25,7 +24,7 @@ void MainFrame::replaceInTagnames()
     if (find.empty())
         return;
     ::replaceInTagnames(map.currentSlots(), addresses, find, modelText(dialog.replaceText->GetValue()));
-    validateMap(map, database.tags);
+    document.validate();
     refreshMapView(-1);
 }
 
@@ -45,14 +44,19 @@ void MainFrame::editRegister()
     if (dialog.ShowModal() != wxID_OK)
         return;
     applyEdit(slots, *head, dialog.editedRegister());
-    validateMap(map, database.tags);
+    document.validate();
     refreshMapView(-1);
 }
 
 void MainFrame::editSettings()
 {
     SettingsDialog dialog(this);
-    dialog.showByteOrder(defaultByteOrder);
+    dialog.showByteOrder(document.defaultByteOrder);
     if (dialog.ShowModal() == wxID_OK)
-        defaultByteOrder = dialog.byteOrder();
+        document.defaultByteOrder = dialog.byteOrder();
+}
+
+void MainFrame::OnMapGridCellDClick(wxGridEvent&)
+{
+    editRegister();
 }

@@ -5,7 +5,6 @@
 #include "map/ErrorPurge.h"
 #include "map/Locks.h"
 #include "map/TagPlacing.h"
-#include "map/Validation.h"
 #include "ui/MainFrame.h"
 #include "ui/Messages.h"
 #include "ui/grid/MapGridTable.h"
@@ -15,7 +14,7 @@
 
 void MainFrame::copySourceTags()
 {
-    map.clipboard = ::copySourceTags(database.tags, sourceBrowser->selectedTags(), defaultByteOrder);
+    map.clipboard = ::copySourceTags(document.database.tags, sourceBrowser->selectedTags(), document.defaultByteOrder);
 }
 
 void MainFrame::copyRegisters()
@@ -94,7 +93,7 @@ void MainFrame::compressRegisters()
         wxMessageBox(compressRefusedText);
         break;
     case CompressResult::Compressed:
-        validateMap(map, database.tags);
+        document.validate();
         refreshMapView(-1);
         break;
     case CompressResult::Unchanged:
@@ -120,6 +119,6 @@ void MainFrame::deleteErrorRegisters()
     if (wxMessageBox(purgeQuestionText, confirmationCaption, wxYES_NO, this) != wxYES)
         return;
     ::deleteErrorRegisters(map);
-    validateMap(map, database.tags);
+    document.validate();
     refreshMapView(-1);
 }

@@ -1,6 +1,5 @@
 // Leaving the program and what goes with it.
 
-#include "map/DefinitionFile.h"
 #include "map/MapExport.h"
 #include "ui/MainFrame.h"
 #include "ui/Messages.h"
@@ -32,22 +31,31 @@ void showUntilClosed(const wxAboutDialogInfo& about)
 
 void MainFrame::exitAndSave()
 {
-    if (map.isModified() && wxMessageBox("Save changes ?", confirmationCaption, wxYES_NO) == wxYES && !saveDefinition())
-        return;
+    if (map.isModified())
+    {
+        const int answer = wxMessageBox("Save changes ?", confirmationCaption, wxYES_NO);
+        // Esc and the box's close button are no answer to a question about a day's work: back to the editor.
+        if (answer != wxYES && answer != wxNO)
+            return;
+        if (answer == wxYES && !saveDefinition())
+            return;
+    }
     Close(true);
 }
 
 bool MainFrame::saveDefinition()
 {
-    if (definitionPath.empty())
+    if (document.definitionPath.empty())
     {
-        definitionPath = chooseFile(this, {"Save map definition file", wxString(), "map.csv",
-                                           "Map definition files (*.csv)|*.csv|All files (*.*)|*.*",
-                                           wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
-        if (definitionPath.empty())
+        const wxString chosen = chooseFile(this, {"Save map definition file", wxString(), "map.csv",
+                                                  "Map definition files (*.csv)|*.csv|All files (*.*)|*.*",
+                                                  wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
+        if (chosen.empty())
             return false;
+        document.definitionPath = toPath(chosen);
     }
-    saveDefinitionFile(toPath(definitionPath), map);
+    // A file that cannot be written is not reported: leaving goes on.
+    document.saveDefinition();
     return true;
 }
 
@@ -64,7 +72,7 @@ void MainFrame::showAbout()
 {
     wxAboutDialogInfo about;
     about.SetName("Tolvane : Modbus Map Editor");
-    about.SetVersion("1.0.0", wxString());
+    about.SetVersion(TOLVANE_VERSION, wxString());
     about.SetDescription("Modbus map editor for Varnok and Dravel products");
     about.SetCopyright("Copyright (C) 2026 BELTHORNE LTD");
     about.SetWebSite("https://www.belthorne.example");
@@ -76,8 +84,8 @@ void MainFrame::showHelp()
     // The suite stores its paths in the form of one system only.
     wxString folder = documentationFolder;
     folder.Replace("\\", wxString(wxFileName::GetPathSeparator()));
-    const wxString document =
+    const wxString chosen =
         chooseFile(this, {"Select a document", folder, "*.pdf", "*.pdf", wxFD_OPEN | wxFD_FILE_MUST_EXIST});
-    if (!document.empty())
-        wxLaunchDefaultApplication(document);
+    if (!chosen.empty())
+        wxLaunchDefaultApplication(chosen);
 }

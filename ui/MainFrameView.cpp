@@ -1,4 +1,4 @@
-// The map grid: what it shows, what is selected in it, and its keys.
+// The map grid: what it shows and what is selected in it.
 
 #include "map/MapView.h"
 #include "map/Selection.h"
@@ -122,43 +122,9 @@ void MainFrame::reselectAddresses(std::vector<int> addresses)
     refreshing = false;
 }
 
-void MainFrame::OnMapGridKeyDown(wxKeyEvent& event)
+void MainFrame::selectAllRegisters()
 {
-    if (refreshing)
-        return;
-    const bool control = event.ControlDown();
-    switch (event.GetKeyCode())
-    {
-    case WXK_SPACE:
-        return toggleView();
-    case WXK_DELETE:
-        return deleteRegisters();
-    case '=':
-    case WXK_NUMPAD_ADD:
-        return moveRegisters(control, MoveDirection::Down);
-    case '-':
-    case WXK_NUMPAD_SUBTRACT:
-        return moveRegisters(control, MoveDirection::Up);
-    case 'X':
-        if (control)
-            return cutRegisters();
-        break;
-    case 'C':
-        if (control)
-            return copyRegisters();
-        break;
-    case 'V':
-        if (control)
-            return pasteRegisters();
-        break;
-    case 'A':
-        if (control)
-            return mapGrid->SelectAll();
-        break;
-    default:
-        break;
-    }
-    event.Skip();
+    mapGrid->SelectAll();
 }
 
 void MainFrame::OnTimer(wxTimerEvent&)

@@ -1,6 +1,7 @@
 #include "tests/ui/EditorWindow.h"
 
 #include "tests/ui/UiTest.h"
+#include "ui/OpenDocument.h"
 #include "ui/ToolkitText.h"
 #include "ui/grid/GridSelection.h"
 
@@ -45,8 +46,15 @@ void collectButtons(const wxWindow& window, const wxString& tooltip, std::vector
 
 } // namespace
 
-EditorWindow::EditorWindow(const StartupValues& startup)
-    : MainFrame(startup, [] { return std::optional<wxString>("/suite/"); })
+ShownDocument::ShownDocument(const DocumentFiles& files) : shown(files.database, files.definition, files.swapFlags)
+{
+    openDocument(shown);
+}
+
+EditorWindow::EditorWindow(const DocumentFiles& files)
+    : ShownDocument(files),
+      MainFrame(shown, "/suite/",
+                [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); })
 {
 }
 
@@ -116,7 +124,7 @@ PlantFiles::PlantFiles(std::string_view definition)
     folder.write("plant.csv", definition);
 }
 
-StartupValues PlantFiles::startup(long swapFlags) const
+DocumentFiles PlantFiles::startup(long swapFlags) const
 {
     return {(folder / "plant.json").string(), (folder / "plant.csv").string(), swapFlags};
 }
@@ -127,9 +135,9 @@ std::string PlantFiles::definition() const
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-EditorWindow* openEditor(const StartupValues& startup)
+EditorWindow* openEditor(const DocumentFiles& files)
 {
-    auto* const editor = new EditorWindow(startup);
+    auto* const editor = new EditorWindow(files);
     editor->Show();
     editor->settleLayout();
     editor->Raise();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "map/Document.h"
 #include "tests/core/TempFolder.h"
 #include "ui/MainFrame.h"
 
@@ -9,11 +10,35 @@
 
 class wxBitmapButton;
 
+/// The files of a document and the byte order it starts with.
+struct DocumentFiles
+{
+    std::string database;
+    std::string definition;
+    long swapFlags = 0;
+};
+
+/// The document that a window of the tests shows, and how it is asked for files; a base class, so that it is there
+/// before the window and still there when that goes.
+struct ShownDocument
+{
+    explicit ShownDocument(const DocumentFiles& files);
+
+    Document shown;
+    FileChooser chooser = chooseFileWithDialog;
+};
+
 /// The main window as a test sees it: its controls in reach, standing on files of the test's own.
-class EditorWindow : public MainFrame
+class EditorWindow : private ShownDocument, public MainFrame
 {
 public:
-    explicit EditorWindow(const StartupValues& startup);
+    explicit EditorWindow(const DocumentFiles& files);
+
+    /// The map on which the window works.
+    RegisterMap& registerMap() { return shown.map; }
+
+    /// Answers in place of the desktop's file dialog from now on.
+    void setFileChooser(FileChooser answer) { chooser = std::move(answer); }
 
     using MainFrameBase::groupFilters;
     using MainFrameBase::mapGrid;
@@ -56,8 +81,8 @@ public:
     /// @param definition  text of the definition file
     explicit PlantFiles(std::string_view definition);
 
-    /// The command line that names both files.
-    StartupValues startup(long swapFlags = 0) const;
+    /// Both files, and the byte order to start with.
+    DocumentFiles startup(long swapFlags = 0) const;
 
     /// The bytes of the definition file.
     std::string definition() const;
@@ -67,7 +92,7 @@ private:
 };
 
 /// Opens the main window, shown and with the keyboard in the map grid.
-EditorWindow* openEditor(const StartupValues& startup);
+EditorWindow* openEditor(const DocumentFiles& files);
 
 /// Waits until a window is closed and gone.
 [[nodiscard]] bool waitUntilGone(const wxWindow* window);

@@ -211,6 +211,36 @@ TEST(MainFrame, NoLeavesTheFileAsItWas)
     EXPECT_EQ(files.definition(), definition);
 }
 
+TEST(MainFrame, EscIsNoAnswerToTheSaveQuestionAndGoesBackToTheEditor)
+{
+    const PlantFiles files(definition);
+    EditorWindow* const editor = openEditor(files.startup());
+    editor->registerMap().eraseObject(RegisterSpace::Holding, 110);
+    const MessageBoxKey escape(*editor, WXK_ESCAPE);
+    clickOn(*editor->button("Exit without saving"));
+    EXPECT_TRUE(waitUntil([&] { return escape.hasEnded(); }));
+    EXPECT_EQ(escape.message(), "Save changes ?");
+    EXPECT_EQ(escape.caption(), "Confirmation");
+    // A closing window would be gone once what waits for the program is handled.
+    editor->focusMapGrid();
+    EXPECT_FALSE(editor->IsBeingDeleted());
+    EXPECT_TRUE(editor->registerMap().isModified());
+    EXPECT_EQ(files.definition(), definition);
+}
+
+TEST(MainFrame, ClosingTheBoxOfTheSaveQuestionGoesBackToTheEditor)
+{
+    const PlantFiles files(definition);
+    EditorWindow* const editor = openEditor(files.startup());
+    editor->registerMap().eraseObject(RegisterSpace::Holding, 110);
+    const MessageBoxAnswer closed(wxID_CANCEL);
+    clickOn(*editor->button("Exit without saving"));
+    EXPECT_TRUE(waitUntil([&] { return closed.count() == 1; }));
+    editor->focusMapGrid();
+    EXPECT_FALSE(editor->IsBeingDeleted());
+    EXPECT_EQ(files.definition(), definition);
+}
+
 TEST(MainFrame, CloseRequestEndsWithoutAQuestionAndWithoutSaving)
 {
     const PlantFiles files(definition);
@@ -225,7 +255,7 @@ TEST(MainFrame, SavingWithoutAPathAsksForOneAndCancellingGoesBackToTheEditor)
 {
     const TempFolder folder;
     const PlantFiles files("");
-    EditorWindow* const editor = openEditor({files.startup().databasePath, "", 0});
+    EditorWindow* const editor = openEditor({files.startup().database, "", 0});
     editor->registerMap().placeObject(RegisterSpace::Coil, 3, freeSlot(3), 1);
     wxString chosen;
     int questions = 0;
@@ -252,7 +282,7 @@ TEST(MainFrame, FileRemovedMeanwhileIsCreatedAgain)
 {
     const PlantFiles files(definition);
     EditorWindow* const editor = openEditor(files.startup());
-    std::filesystem::remove(modelText(files.startup().definitionPath));
+    std::filesystem::remove(files.startup().definition);
     clearSlots(editor->registerMap().slots(RegisterSpace::Holding), 0, registersPerSpace);
     const MessageBoxAnswer answer(wxID_YES);
     clickOn(*editor->button("Exit without saving"));

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "map/DefaultByteOrder.h"
+#include "map/RegisterMap.h"
+#include "source/TagDatabase.h"
+#include "source/TagDatabaseLoader.h"
+
+#include <filesystem>
+
+/// What the program works on: the register map, the tag database that it publishes from, and the files they come from.
+///
+/// It knows no window. Whoever opens it keeps it until every window that shows it is gone.
+class Document
+{
+public:
+    /// An empty map over an empty database; nothing is read yet.
+    /// @param databaseFile    tag database, a JSON file; may be empty or name no file
+    /// @param definitionFile  map definition file; may be empty or name no file
+    /// @param swapFlags       default byte order of float tags: bit 1 bytes, bit 2 words, bit 3 longs
+    Document(std::filesystem::path databaseFile, std::filesystem::path definitionFile, long swapFlags);
+
+    /// Reads the tag database; a failure leaves what was read before it.
+    LoadResult loadDatabase();
+
+    /// Reads the definition file over the map, validates it, and takes the state for which there is nothing to save.
+    /// A file that is missing or cannot be read leaves the map as it is. The database has to be loaded before: it sizes
+    /// objects that the file names without a length.
+    void loadDefinition();
+
+    /// Judges every register by the tag database again.
+    void validate();
+
+    /// Writes the definition file.
+    /// @return false when it could not be written; the file is then what it was
+    bool saveDefinition() const;
+
+    RegisterMap map;
+    TagDatabase database;
+    DefaultByteOrder defaultByteOrder;    ///< of objects made from tags; lasts for this run
+    std::filesystem::path definitionPath; ///< empty when there is no file to save to yet
+
+private:
+    std::filesystem::path databasePath;
+};
