@@ -6,14 +6,6 @@
 namespace
 {
 
-constexpr Rgb bright{220, 220, 220};
-constexpr Rgb error{255, 0, 0};
-constexpr Rgb warning{255, 255, 0};
-constexpr Rgb writable{255, 150, 0};
-constexpr Rgb readOnly{217, 255, 0};
-constexpr Rgb continuation{120, 120, 200};
-constexpr Rgb unused{80, 80, 80};
-
 MapCell& cell(MapRow& row, MapColumn column)
 {
     return row[static_cast<std::size_t>(column)];
@@ -22,24 +14,34 @@ MapCell& cell(MapRow& row, MapColumn column)
 MapCell marker(const RegisterEntry& slot)
 {
     if (slot.locked)
-        return {"L", error};
+        return {"L", MapTone::Lock};
     if (hasError(slot))
-        return {"!!", warning};
+        return {"!!", MapTone::Warning};
     return {};
 }
 
 MapCell access(const RegisterEntry& slot)
 {
     if (!slot.write)
-        return {"Read", readOnly};
-    return {"Write", slot.writeValid ? writable : error};
+        return {"Read", MapTone::ReadOnly};
+    return {"Write", slot.writeValid ? MapTone::Writable : MapTone::Error};
+}
+
+MapTone nameTone(const RegisterEntry& slot, MapTone sound)
+{
+    return slot.tagIndex == -1 ? MapTone::Error : sound;
+}
+
+MapTone typeTone(const RegisterEntry& slot, MapTone sound)
+{
+    return slot.typeValid ? sound : MapTone::Error;
 }
 
 void fillHead(MapRow& row, const RegisterEntry& slot)
 {
     const auto order = byteOrderCharacters(slot);
-    cell(row, MapColumn::Name) = {std::string(slot.tagname.view()), slot.tagIndex == -1 ? error : bright};
-    cell(row, MapColumn::Type) = {std::string(typeName(slot.type)), slot.typeValid ? bright : error};
+    cell(row, MapColumn::Name) = {std::string(slot.tagname.view()), nameTone(slot, MapTone::Sound)};
+    cell(row, MapColumn::Type) = {std::string(typeName(slot.type)), typeTone(slot, MapTone::Sound)};
     cell(row, MapColumn::Size).text = std::to_string(static_cast<std::int32_t>(slot.registerCount));
     cell(row, MapColumn::Write) = access(slot);
     cell(row, MapColumn::Order).text.assign(order.begin(), order.end());
@@ -48,8 +50,8 @@ void fillHead(MapRow& row, const RegisterEntry& slot)
 
 void fillContinuation(MapRow& row, const RegisterEntry& slot)
 {
-    cell(row, MapColumn::Name) = {":", slot.tagIndex == -1 ? error : continuation};
-    cell(row, MapColumn::Type) = {":", slot.typeValid ? continuation : error};
+    cell(row, MapColumn::Name) = {":", nameTone(slot, MapTone::Continuation)};
+    cell(row, MapColumn::Type) = {":", typeTone(slot, MapTone::Continuation)};
     cell(row, MapColumn::Size).text = ":";
     cell(row, MapColumn::Write).text = ":";
     cell(row, MapColumn::Order).text = ":";
@@ -61,11 +63,11 @@ void fillContinuation(MapRow& row, const RegisterEntry& slot)
 MapRow fillMapRow(const RegisterEntry& slot)
 {
     MapRow row;
-    cell(row, MapColumn::Address) = {addressText(slot.address), slot.used ? bright : unused};
+    cell(row, MapColumn::Address) = {addressText(slot.address), slot.used ? MapTone::Sound : MapTone::Free};
     if (!slot.used)
     {
-        cell(row, MapColumn::Name).colour = unused;
-        cell(row, MapColumn::Type).colour = unused;
+        cell(row, MapColumn::Name).tone = MapTone::Free;
+        cell(row, MapColumn::Type).tone = MapTone::Free;
         return row;
     }
     cell(row, MapColumn::Marker) = marker(slot);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "map/RegisterEntry.h"
-#include "text/Rgb.h"
 
 #include <array>
 #include <string>
@@ -22,11 +21,25 @@ enum class MapColumn : int
 /// Number of columns of the map grid.
 constexpr int mapColumnCount = 8;
 
-/// Text of a cell and the colour it is written in.
+/// What the text of a cell means; the windows have a colour for each.
+enum class MapTone
+{
+    Plain,        ///< nothing of its own
+    Sound,        ///< a used register's address, or a field that passed validation
+    Error,        ///< a field that failed validation
+    Warning,      ///< the mark of a register in error
+    Lock,         ///< the mark of a locked register
+    Writable,     ///< a register that may be written
+    ReadOnly,     ///< a register that may only be read
+    Continuation, ///< a register after the first one of its object
+    Free          ///< a register that is not used
+};
+
+/// Text of a cell and what it means.
 struct MapCell
 {
-    std::string text;
-    Rgb colour{192, 192, 192}; ///< the colour of cells without one of their own
+    std::string text; ///< UTF-8
+    MapTone tone = MapTone::Plain;
 };
 
 /// One row of the map grid, indexed by `MapColumn`.

@@ -12,13 +12,13 @@ TagCell typeCell(TagType type)
     switch (type)
     {
     case TagType::Integer:
-        return {"Integer", {128, 128, 0}};
+        return {"Integer", TagTone::Integer};
     case TagType::Numeric:
-        return {"Float", {68, 128, 128}};
+        return {"Float", TagTone::Float};
     case TagType::String:
-        return {"String", {0, 128, 0}};
+        return {"String", TagTone::String};
     }
-    return {"Unknown", {255, 255, 255}};
+    return {"Unknown", TagTone::UnknownType};
 }
 
 /// The flag names of the groups that the tag belongs to, joined by "-".
@@ -35,7 +35,7 @@ std::string flagsText(const std::vector<TagGroup>& groups, std::uint32_t tagGrou
 
 TagCell plainCell(std::string_view text)
 {
-    return {std::string(text), plainTagColour};
+    return {std::string(text), TagTone::Plain};
 }
 
 } // namespace
@@ -52,7 +52,7 @@ TagCell tagCell(const TagDatabase& database, int tagIndex, int column)
     case TagColumn::Size:
         return plainCell(std::to_string(tag.size));
     case TagColumn::Flags:
-        return {flagsText(database.groups, tag.groups), {255, 217, 0}};
+        return {flagsText(database.groups, tag.groups), TagTone::Flags};
     case TagColumn::Description:
         return plainCell(tag.description.view());
     case TagColumn::Index:

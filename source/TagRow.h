@@ -1,15 +1,25 @@
 #pragma once
 
 #include "source/TagDatabase.h"
-#include "text/Rgb.h"
 
 #include <string>
 
-/// What a cell of the tag grid shows.
+/// What the text of a cell means; the windows have a colour for each.
+enum class TagTone
+{
+    Plain,       ///< nothing of its own
+    Integer,     ///< the type of a whole number
+    Float,       ///< the type of a number with a fraction
+    String,      ///< the type of a text
+    UnknownType, ///< a type that the database should not hold
+    Flags        ///< the groups that a tag belongs to
+};
+
+/// Text of a cell of the tag grid and what it means.
 struct TagCell
 {
     std::string text; ///< UTF-8
-    Rgb colour;       ///< of the text
+    TagTone tone = TagTone::Plain;
 };
 
 /// Columns of the tag grid, left to right.
@@ -25,9 +35,6 @@ enum class TagColumn
 
 /// Number of columns of the tag grid.
 constexpr int tagColumnCount = 6;
-
-/// Colour of cells that have none of their own.
-constexpr Rgb plainTagColour{192, 192, 192};
 
 /// Content of one cell.
 /// @param tagIndex  index of the row's tag in the tag table, 0..65535

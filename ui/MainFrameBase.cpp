@@ -13,6 +13,8 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
+#include <vector>
+
 namespace
 {
 
@@ -27,16 +29,6 @@ constexpr int titleRowHeight = 42;
 
 /// Pixels of the group filters before they scroll.
 constexpr int groupFilterHeight = 172;
-
-/// Columns of the tag grid: name, type, size, flags, description, and the tag's index, which is never seen.
-const std::vector<int> sourceColumnWidths{170, 70, 50, 70, 180, 0};
-
-/// Columns of the map grid: marker, address, name, type, size, write, order, description.
-const std::vector<int> mapColumnWidths{20, 60, 170, 60, 40, 50, 50, 30};
-
-/// The last columns that are seen; they take the room that the others leave.
-constexpr int lastSourceColumn = 4;
-constexpr int lastMapColumn = 7;
 
 void dress(wxWindow& window, Rgb text, Rgb background)
 {
@@ -106,10 +98,10 @@ wxPanel* MainFrameBase::createTitleRow(wxWindow* parent, const wxString& title, 
     return row;
 }
 
-wxGrid* MainFrameBase::createGrid(wxWindow* parent, const std::vector<int>& columnWidths)
+wxGrid* MainFrameBase::createGrid(wxWindow* parent, GridColumns columns)
 {
     auto* const grid = new wxGrid(parent, wxID_ANY);
-    grid->CreateGrid(0, static_cast<int>(columnWidths.size()), wxGrid::wxGridSelectRows);
+    grid->CreateGrid(0, static_cast<int>(columns.size()), wxGrid::wxGridSelectRows);
     grid->EnableEditing(false);
     grid->EnableGridLines(false);
     grid->SetMargins(0, 0);
@@ -129,8 +121,8 @@ wxGrid* MainFrameBase::createGrid(wxWindow* parent, const std::vector<int>& colu
     grid->SetSelectionBackground(theme::colour(theme::selection));
     grid->SetSelectionForeground(theme::colour(theme::contentText));
     dress(*grid, theme::cellText, theme::contentBackground);
-    for (std::size_t column = 0; column < columnWidths.size(); ++column)
-        grid->SetColSize(static_cast<int>(column), FromDIP(columnWidths[column]));
+    for (std::size_t column = 0; column < columns.size(); ++column)
+        grid->SetColSize(static_cast<int>(column), FromDIP(columns[column].width));
     return grid;
 }
 
@@ -177,8 +169,8 @@ wxSizer* MainFrameBase::createTagColumn()
     sourceFilter->SetMinSize(FromDIP(wxSize(220, -1)));
     titleSizer->Add(sourceFilter, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
 
-    sourceGrid = createGrid(sourcePanel, sourceColumnWidths);
-    sourceGridHeader = new GridHeader(sourcePanel, *sourceGrid, 0, {"TAGNAME", "TYPE", "SIZE", "FLAGS", "DESCRIPTION"});
+    sourceGrid = createGrid(sourcePanel, tagColumns);
+    sourceGridHeader = new GridHeader(sourcePanel, *sourceGrid, tagColumns);
     auto* const column = new wxBoxSizer(wxVERTICAL);
     column->Add(databaseHeader, 0, wxEXPAND);
     column->Add(sourceGridHeader, 0, wxEXPAND);
@@ -209,11 +201,10 @@ void MainFrameBase::createMapPanel()
     mapButtonSizer = new wxBoxSizer(wxHORIZONTAL);
     titleSizer->Add(mapButtonSizer, 1, wxALIGN_CENTRE_VERTICAL);
 
-    mapGrid = createGrid(mapPanel, mapColumnWidths);
+    mapGrid = createGrid(mapPanel, mapColumns);
     mapGrid->DisableDragColMove();
     mapGrid->DisableDragColSize();
-    mapGridHeader =
-        new GridHeader(mapPanel, *mapGrid, 1, {"ADDRESS", "TAGNAME", "TYPE", "SIZE", "R/W", "ORDER", "DESCRIPTION"});
+    mapGridHeader = new GridHeader(mapPanel, *mapGrid, mapColumns);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(mapHeader, 0, wxEXPAND);
     sizer->Add(mapGridHeader, 0, wxEXPAND);
@@ -279,8 +270,8 @@ void MainFrameBase::showTable(wxGrid& grid, wxGridTableBase* table)
 
 void MainFrameBase::fitColumns()
 {
-    stretchColumn(*sourceGrid, lastSourceColumn);
-    stretchColumn(*mapGrid, lastMapColumn);
+    sourceGridHeader->stretchLastColumn();
+    mapGridHeader->stretchLastColumn();
     sourceGridHeader->followColumns();
     mapGridHeader->followColumns();
 }

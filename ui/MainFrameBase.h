@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ui/grid/GridColumns.h"
+
 #include <wx/frame.h>
 #include <wx/timer.h>
-
-#include <vector>
 
 class GridHeader;
 class wxBoxSizer;
@@ -77,7 +77,7 @@ private:
     void createMapPanel();
     wxPanel* createStatusLine();
     wxPanel* createTitleRow(wxWindow* parent, const wxString& title, wxSizer*& sizer);
-    wxGrid* createGrid(wxWindow* parent, const std::vector<int>& columnWidths);
+    wxGrid* createGrid(wxWindow* parent, GridColumns columns);
     void connectEvents();
 
     GridHeader* sourceGridHeader = nullptr;

@@ -1,5 +1,8 @@
 #include "ui/Theme.h"
 
+#include "map/MapRow.h"
+#include "source/TagRow.h"
+
 #include <wx/fontenum.h>
 #include <wx/settings.h>
 
@@ -36,6 +39,51 @@ namespace theme
 wxColour buttonBackground()
 {
     return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+}
+
+Rgb cellColour(MapTone tone)
+{
+    switch (tone)
+    {
+    case MapTone::Plain:
+        return cellText;
+    case MapTone::Sound:
+        return {220, 220, 220};
+    case MapTone::Error:
+    case MapTone::Lock:
+        return {255, 0, 0};
+    case MapTone::Warning:
+        return {255, 255, 0};
+    case MapTone::Writable:
+        return {255, 150, 0};
+    case MapTone::ReadOnly:
+        return {217, 255, 0};
+    case MapTone::Continuation:
+        return {120, 120, 200};
+    case MapTone::Free:
+        return {80, 80, 80};
+    }
+    return cellText;
+}
+
+Rgb cellColour(TagTone tone)
+{
+    switch (tone)
+    {
+    case TagTone::Plain:
+        return cellText;
+    case TagTone::Integer:
+        return {128, 128, 0};
+    case TagTone::Float:
+        return {68, 128, 128};
+    case TagTone::String:
+        return {0, 128, 0};
+    case TagTone::UnknownType:
+        return {255, 255, 255};
+    case TagTone::Flags:
+        return groupFlag;
+    }
+    return cellText;
 }
 
 wxFont regular(int points)

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "text/Rgb.h"
+#include "ui/Rgb.h"
 
 #include <wx/colour.h>
 #include <wx/font.h>
 
-/// The one dark look of all windows: their colours and fonts, named by what they are for. What a cell of a grid is
-/// written in follows from what it shows and is decided there.
+enum class MapTone;
+enum class TagTone;
+
+/// The one dark look of all windows: their colours and fonts, named by what they are for.
 namespace theme
 {
 
@@ -42,6 +44,12 @@ inline wxColour colour(Rgb rgb)
 
 /// Background of the buttons that end a dialog: the desktop's colour of selected things.
 wxColour buttonBackground();
+
+/// What a cell of the map grid is written in.
+Rgb cellColour(MapTone tone);
+
+/// What a cell of the tag grid is written in.
+Rgb cellColour(TagTone tone);
 
 /// "Segoe UI", or the desktop's own sans face where that is not installed.
 /// @param points  size in points

@@ -7,15 +7,6 @@
 namespace
 {
 
-constexpr Rgb red{255, 0, 0};
-constexpr Rgb yellow{255, 255, 0};
-constexpr Rgb orange{255, 150, 0};
-constexpr Rgb lime{217, 255, 0};
-constexpr Rgb bright{220, 220, 220};
-constexpr Rgb violet{120, 120, 200};
-constexpr Rgb dim{80, 80, 80};
-constexpr Rgb plain{192, 192, 192};
-
 RegisterEntry head()
 {
     RegisterEntry slot = registerOf("Tank1Level", 2);
@@ -37,46 +28,46 @@ MapCell cell(const RegisterEntry& slot, MapColumn column)
     return fillMapRow(slot)[static_cast<std::size_t>(column)];
 }
 
-void expectCell(const RegisterEntry& slot, MapColumn column, std::string_view text, Rgb colour)
+void expectCell(const RegisterEntry& slot, MapColumn column, std::string_view text, MapTone tone)
 {
     const MapCell shown = cell(slot, column);
     EXPECT_EQ(shown.text, text) << "column " << static_cast<int>(column);
-    EXPECT_EQ(shown.colour, colour) << "column " << static_cast<int>(column);
+    EXPECT_EQ(shown.tone, tone) << "column " << static_cast<int>(column);
 }
 
 } // namespace
 
 TEST(MapRow, HeadShowsItsObject)
 {
-    expectCell(head(), MapColumn::Marker, "", plain);
-    expectCell(head(), MapColumn::Address, "00100", bright);
-    expectCell(head(), MapColumn::Name, "Tank1Level", bright);
-    expectCell(head(), MapColumn::Type, "FLOAT", bright);
-    expectCell(head(), MapColumn::Size, "2", plain);
-    expectCell(head(), MapColumn::Write, "Read", lime);
-    expectCell(head(), MapColumn::Order, "-W-", plain);
-    expectCell(head(), MapColumn::Description, "Level of tank 1", plain);
+    expectCell(head(), MapColumn::Marker, "", MapTone::Plain);
+    expectCell(head(), MapColumn::Address, "00100", MapTone::Sound);
+    expectCell(head(), MapColumn::Name, "Tank1Level", MapTone::Sound);
+    expectCell(head(), MapColumn::Type, "FLOAT", MapTone::Sound);
+    expectCell(head(), MapColumn::Size, "2", MapTone::Plain);
+    expectCell(head(), MapColumn::Write, "Read", MapTone::ReadOnly);
+    expectCell(head(), MapColumn::Order, "-W-", MapTone::Plain);
+    expectCell(head(), MapColumn::Description, "Level of tank 1", MapTone::Plain);
 }
 
 TEST(MapRow, ContinuationShowsColons)
 {
-    expectCell(continuation(), MapColumn::Marker, "", plain);
-    expectCell(continuation(), MapColumn::Address, "00101", bright);
-    expectCell(continuation(), MapColumn::Name, ":", violet);
-    expectCell(continuation(), MapColumn::Type, ":", violet);
+    expectCell(continuation(), MapColumn::Marker, "", MapTone::Plain);
+    expectCell(continuation(), MapColumn::Address, "00101", MapTone::Sound);
+    expectCell(continuation(), MapColumn::Name, ":", MapTone::Continuation);
+    expectCell(continuation(), MapColumn::Type, ":", MapTone::Continuation);
     for (const MapColumn column : {MapColumn::Size, MapColumn::Write, MapColumn::Order, MapColumn::Description})
-        expectCell(continuation(), column, ":", plain);
+        expectCell(continuation(), column, ":", MapTone::Plain);
 }
 
 TEST(MapRow, FreeSlotShowsItsAddressAlone)
 {
     const RegisterEntry slot = freeSlot(65535);
-    expectCell(slot, MapColumn::Marker, "", plain);
-    expectCell(slot, MapColumn::Address, "65535", dim);
-    expectCell(slot, MapColumn::Name, "", dim);
-    expectCell(slot, MapColumn::Type, "", dim);
+    expectCell(slot, MapColumn::Marker, "", MapTone::Plain);
+    expectCell(slot, MapColumn::Address, "65535", MapTone::Free);
+    expectCell(slot, MapColumn::Name, "", MapTone::Free);
+    expectCell(slot, MapColumn::Type, "", MapTone::Free);
     for (const MapColumn column : {MapColumn::Size, MapColumn::Write, MapColumn::Order, MapColumn::Description})
-        expectCell(slot, column, "", plain);
+        expectCell(slot, column, "", MapTone::Plain);
 }
 
 TEST(MapRow, FreeSlotHidesWhatAnEarlierObjectLeft)
@@ -91,7 +82,7 @@ TEST(MapRow, FreeSlotHidesWhatAnEarlierObjectLeft)
     for (std::size_t column = 0; column < row.size(); ++column)
     {
         EXPECT_EQ(row[column].text, expected[column].text) << column;
-        EXPECT_EQ(row[column].colour, expected[column].colour) << column;
+        EXPECT_EQ(row[column].tone, expected[column].tone) << column;
     }
 }
 
@@ -100,7 +91,7 @@ TEST(MapRow, LockedRegistersAreMarked)
     for (RegisterEntry slot : {head(), continuation()})
     {
         slot.locked = true;
-        expectCell(slot, MapColumn::Marker, "L", red);
+        expectCell(slot, MapColumn::Marker, "L", MapTone::Lock);
     }
 }
 
@@ -109,14 +100,14 @@ TEST(MapRow, EachErrorIsMarkedOnHeadAndContinuation)
     for (RegisterEntry slot : {head(), continuation()})
     {
         slot.tagIndex = -1;
-        expectCell(slot, MapColumn::Marker, "!!", yellow);
+        expectCell(slot, MapColumn::Marker, "!!", MapTone::Warning);
         slot.tagIndex = 0;
-        expectCell(slot, MapColumn::Marker, "", plain);
+        expectCell(slot, MapColumn::Marker, "", MapTone::Plain);
         slot.typeValid = false;
-        expectCell(slot, MapColumn::Marker, "!!", yellow);
+        expectCell(slot, MapColumn::Marker, "!!", MapTone::Warning);
         slot.typeValid = true;
         slot.writeValid = false;
-        expectCell(slot, MapColumn::Marker, "!!", yellow);
+        expectCell(slot, MapColumn::Marker, "!!", MapTone::Warning);
     }
 }
 
@@ -125,42 +116,42 @@ TEST(MapRow, LockIsShownRatherThanTheError)
     RegisterEntry slot = head();
     slot.locked = true;
     slot.tagIndex = -1;
-    expectCell(slot, MapColumn::Marker, "L", red);
+    expectCell(slot, MapColumn::Marker, "L", MapTone::Lock);
 }
 
-TEST(MapRow, UnknownTagHasARedName)
+TEST(MapRow, NameOfAnUnknownTagIsAnError)
 {
     RegisterEntry slot = head();
     slot.tagIndex = -1;
-    expectCell(slot, MapColumn::Name, "Tank1Level", red);
-    expectCell(slot, MapColumn::Type, "FLOAT", bright);
+    expectCell(slot, MapColumn::Name, "Tank1Level", MapTone::Error);
+    expectCell(slot, MapColumn::Type, "FLOAT", MapTone::Sound);
     slot = continuation();
     slot.tagIndex = -1;
-    expectCell(slot, MapColumn::Name, ":", red);
-    expectCell(slot, MapColumn::Type, ":", violet);
+    expectCell(slot, MapColumn::Name, ":", MapTone::Error);
+    expectCell(slot, MapColumn::Type, ":", MapTone::Continuation);
 }
 
-TEST(MapRow, BadTypeIsRed)
+TEST(MapRow, BadTypeIsAnError)
 {
     RegisterEntry slot = head();
     slot.typeValid = false;
-    expectCell(slot, MapColumn::Type, "FLOAT", red);
-    expectCell(slot, MapColumn::Name, "Tank1Level", bright);
+    expectCell(slot, MapColumn::Type, "FLOAT", MapTone::Error);
+    expectCell(slot, MapColumn::Name, "Tank1Level", MapTone::Sound);
     slot = continuation();
     slot.typeValid = false;
-    expectCell(slot, MapColumn::Type, ":", red);
-    expectCell(slot, MapColumn::Name, ":", violet);
+    expectCell(slot, MapColumn::Type, ":", MapTone::Error);
+    expectCell(slot, MapColumn::Name, ":", MapTone::Continuation);
 }
 
-TEST(MapRow, WriteIsOrangeOrRedAndReadNeitherWay)
+TEST(MapRow, WriteIsAnErrorWhereTheTagTakesNoneAndReadNever)
 {
     RegisterEntry slot = head();
     slot.write = true;
-    expectCell(slot, MapColumn::Write, "Write", orange);
+    expectCell(slot, MapColumn::Write, "Write", MapTone::Writable);
     slot.writeValid = false;
-    expectCell(slot, MapColumn::Write, "Write", red);
+    expectCell(slot, MapColumn::Write, "Write", MapTone::Error);
     slot.write = false;
-    expectCell(slot, MapColumn::Write, "Read", lime);
+    expectCell(slot, MapColumn::Write, "Read", MapTone::ReadOnly);
 }
 
 TEST(MapRow, BadWriteLeavesTheColonsOfAContinuation)
@@ -168,8 +159,8 @@ TEST(MapRow, BadWriteLeavesTheColonsOfAContinuation)
     RegisterEntry slot = continuation();
     slot.write = true;
     slot.writeValid = false;
-    expectCell(slot, MapColumn::Write, ":", plain);
-    expectCell(slot, MapColumn::Marker, "!!", yellow);
+    expectCell(slot, MapColumn::Write, ":", MapTone::Plain);
+    expectCell(slot, MapColumn::Marker, "!!", MapTone::Warning);
 }
 
 TEST(MapRow, OrderHasACharacterForEachFlag)
@@ -178,21 +169,21 @@ TEST(MapRow, OrderHasACharacterForEachFlag)
     slot.SwapBytes = true;
     slot.SwapWords = false;
     slot.SwapLongs = true;
-    expectCell(slot, MapColumn::Order, "B-L", plain);
+    expectCell(slot, MapColumn::Order, "B-L", MapTone::Plain);
 }
 
 TEST(MapRow, TypeCodeOutsideTheFiveHasItsOwnName)
 {
     RegisterEntry slot = head();
     slot.type = static_cast<DataType>(5);
-    expectCell(slot, MapColumn::Type, "UNKOWN", bright);
+    expectCell(slot, MapColumn::Type, "UNKOWN", MapTone::Sound);
 }
 
 TEST(MapRow, SizeIsTheWholeCountOfATruncatedObject)
 {
     RegisterEntry slot = head();
     slot.registerCount = 2147483647;
-    expectCell(slot, MapColumn::Size, "2147483647", plain);
+    expectCell(slot, MapColumn::Size, "2147483647", MapTone::Plain);
 }
 
 TEST(MapRow, RegisterOfANegativeAddressIsAContinuation)
@@ -200,8 +191,8 @@ TEST(MapRow, RegisterOfANegativeAddressIsAContinuation)
     RegisterEntry slot = head();
     slot.startAddress = 4294967294U;
     slot.address = 0;
-    expectCell(slot, MapColumn::Address, "00000", bright);
-    expectCell(slot, MapColumn::Name, ":", violet);
+    expectCell(slot, MapColumn::Address, "00000", MapTone::Sound);
+    expectCell(slot, MapColumn::Name, ":", MapTone::Continuation);
 }
 
 TEST(MapRow, TextsAreShownAsTheyStand)
@@ -210,6 +201,6 @@ TEST(MapRow, TextsAreShownAsTheyStand)
     slot.tagname = InternedText("Behälter.1");
     slot.description = InternedText("a, b {c}");
     slot.write = true;
-    expectCell(slot, MapColumn::Name, "Behälter.1", bright);
-    expectCell(slot, MapColumn::Description, "a, b {c}", plain);
+    expectCell(slot, MapColumn::Name, "Behälter.1", MapTone::Sound);
+    expectCell(slot, MapColumn::Description, "a, b {c}", MapTone::Plain);
 }

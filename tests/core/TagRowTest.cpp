@@ -8,8 +8,6 @@
 namespace
 {
 
-constexpr Rgb plain{192, 192, 192};
-
 TagRecord pump()
 {
     TagRecord record;
@@ -48,18 +46,18 @@ TEST(TagRow, ColumnsShowTheTag)
         EXPECT_EQ(tagCell(database, 0, column).text, expected[static_cast<std::size_t>(column)]);
 }
 
-TEST(TagRow, TypeAndFlagsHaveColoursOfTheirOwn)
+TEST(TagRow, TypeAndFlagsHaveTonesOfTheirOwn)
 {
     const TagDatabase database = databaseOf(pump());
-    EXPECT_EQ(tagCell(database, 0, 0).colour, plain);
-    EXPECT_EQ(tagCell(database, 0, 1).colour, (Rgb{68, 128, 128}));
-    EXPECT_EQ(tagCell(database, 0, 2).colour, plain);
-    EXPECT_EQ(tagCell(database, 0, 3).colour, (Rgb{255, 217, 0}));
-    EXPECT_EQ(tagCell(database, 0, 4).colour, plain);
-    EXPECT_EQ(tagCell(database, 0, 5).colour, plain);
+    EXPECT_EQ(tagCell(database, 0, 0).tone, TagTone::Plain);
+    EXPECT_EQ(tagCell(database, 0, 1).tone, TagTone::Float);
+    EXPECT_EQ(tagCell(database, 0, 2).tone, TagTone::Plain);
+    EXPECT_EQ(tagCell(database, 0, 3).tone, TagTone::Flags);
+    EXPECT_EQ(tagCell(database, 0, 4).tone, TagTone::Plain);
+    EXPECT_EQ(tagCell(database, 0, 5).tone, TagTone::Plain);
 }
 
-TEST(TagRow, EachTypeHasItsWordAndColour)
+TEST(TagRow, EachTypeHasItsWordAndTone)
 {
     const auto typeCell = [](int code)
     {
@@ -68,14 +66,14 @@ TEST(TagRow, EachTypeHasItsWordAndColour)
         return tagCell(databaseOf(record), 0, 1);
     };
     EXPECT_EQ(typeCell(0).text, "Integer");
-    EXPECT_EQ(typeCell(0).colour, (Rgb{128, 128, 0}));
+    EXPECT_EQ(typeCell(0).tone, TagTone::Integer);
     EXPECT_EQ(typeCell(1).text, "Float");
     EXPECT_EQ(typeCell(2).text, "String");
-    EXPECT_EQ(typeCell(2).colour, (Rgb{0, 128, 0}));
+    EXPECT_EQ(typeCell(2).tone, TagTone::String);
     for (const int code : {3, 255})
     {
         EXPECT_EQ(typeCell(code).text, "Unknown");
-        EXPECT_EQ(typeCell(code).colour, (Rgb{255, 255, 255}));
+        EXPECT_EQ(typeCell(code).tone, TagTone::UnknownType);
     }
 }
 

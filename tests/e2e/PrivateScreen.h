@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/e2e/Geometry.h"
-#include "text/Rgb.h"
+#include "ui/Rgb.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/Rgb.h"
+#include "ui/Rgb.h"
 
 #include <wx/grid.h>
 

@@ -1,6 +1,7 @@
 #include "ui/grid/GridHeader.h"
 
 #include "ui/Theme.h"
+#include "ui/ToolkitText.h"
 
 #include <wx/grid.h>
 #include <wx/sizer.h>
@@ -22,45 +23,51 @@ constexpr int narrowestColumn = 30;
 
 } // namespace
 
-GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, int firstColumn, const std::vector<wxString>& titles)
-    : wxPanel(parent), grid(columnsOf), firstTitledColumn(firstColumn)
+GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns)
+    : wxPanel(parent), grid(columnsOf), columns(gridColumns)
 {
     SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
     auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
-    int untitledWidth = 0;
-    for (int column = 0; column < firstColumn; ++column)
-        untitledWidth += grid.GetColSize(column);
-    sizer->AddSpacer(untitledWidth);
-    for (const wxString& title : titles)
+    const int last = lastSeenColumn(columns);
+    for (int column = 0; column <= last; ++column)
     {
-        auto* const text = new wxStaticText(this, wxID_ANY, title, wxDefaultPosition, wxDefaultSize,
-                                            wxALIGN_CENTRE_HORIZONTAL | wxST_NO_AUTORESIZE);
-        text->SetFont(theme::regular(8));
-        text->SetForegroundColour(theme::colour(theme::columnHeaderText));
-        text->SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
-        texts.push_back(text);
-        const bool last = texts.size() == titles.size();
-        sizer->Add(text, last ? 1 : 0, wxTOP | wxBOTTOM | (last ? 0 : wxRIGHT), FromDIP(titleGap));
+        const GridColumn& titled = columns[static_cast<std::size_t>(column)];
+        if (titled.title.empty())
+        {
+            sizer->AddSpacer(grid.GetColSize(column));
+            continue;
+        }
+        titles.push_back({column, createTitle(titled.title)});
+        sizer->Add(titles.back().text, column == last ? 1 : 0, wxTOP | wxBOTTOM | (column == last ? 0 : wxRIGHT),
+                   FromDIP(titleGap));
     }
     SetSizer(sizer);
     followColumns();
 }
 
+wxStaticText* GridHeader::createTitle(std::string_view title)
+{
+    auto* const text = new wxStaticText(this, wxID_ANY, toolkitText(title), wxDefaultPosition, wxDefaultSize,
+                                        wxALIGN_CENTRE_HORIZONTAL | wxST_NO_AUTORESIZE);
+    text->SetFont(theme::regular(8));
+    text->SetForegroundColour(theme::colour(theme::columnHeaderText));
+    text->SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
+    return text;
+}
+
 void GridHeader::followColumns()
 {
-    for (std::size_t i = 0; i < texts.size(); ++i)
-    {
-        const int width = grid.GetColSize(firstTitledColumn + static_cast<int>(i)) - FromDIP(titleGap);
-        texts[i]->SetMinSize(wxSize(std::max(width, 0), -1));
-    }
-    texts.back()->SetMinSize(wxSize(0, -1));
+    for (const Title& title : titles)
+        title.text->SetMinSize(wxSize(std::max(grid.GetColSize(title.column) - FromDIP(titleGap), 0), -1));
+    titles.back().text->SetMinSize(wxSize(0, -1));
     Layout();
 }
 
-void stretchColumn(wxGrid& grid, int column)
+void GridHeader::stretchLastColumn()
 {
-    int width = grid.GetSize().GetWidth() - grid.FromDIP(scrollBarRoom);
-    for (int before = 0; before < column; ++before)
-        width -= grid.GetColSize(before);
-    grid.SetColSize(column, std::max(width, grid.FromDIP(narrowestColumn)));
+    const int last = lastSeenColumn(columns);
+    int width = grid.GetSize().GetWidth() - FromDIP(scrollBarRoom);
+    for (int column = 0; column < last; ++column)
+        width -= grid.GetColSize(column);
+    grid.SetColSize(last, std::max(width, FromDIP(narrowestColumn)));
 }

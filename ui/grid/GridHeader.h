@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/grid/GridColumns.h"
+
 #include <wx/panel.h>
 
 #include <vector>
@@ -13,19 +15,26 @@ class GridHeader : public wxPanel
 public:
     /// @param parent       window that holds header and grid
     /// @param columnsOf    the grid underneath
-    /// @param firstColumn  column of the first title; the columns before it have none
-    /// @param titles       one text for each column from `firstColumn` on
-    GridHeader(wxWindow* parent, wxGrid& columnsOf, int firstColumn, const std::vector<wxString>& titles);
+    /// @param gridColumns  its columns; they outlive the header
+    GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns);
 
     /// Gives every title the width of the column beneath it; the last one stretches.
     void followColumns();
 
-private:
-    wxGrid& grid;
-    int firstTitledColumn;
-    std::vector<wxStaticText*> texts;
-};
+    /// Gives the last seen column what the columns before it leave of the grid's width, less 20 pixels for the scroll
+    /// bar; it never gets narrower than its minimum.
+    void stretchLastColumn();
 
-/// Gives a column what the columns before it leave of the grid's width, less 20 pixels for the scroll bar.
-/// @param column  the last visible column; it never gets narrower than its minimum
-void stretchColumn(wxGrid& grid, int column);
+private:
+    struct Title
+    {
+        int column = 0;
+        wxStaticText* text = nullptr;
+    };
+
+    wxStaticText* createTitle(std::string_view title);
+
+    wxGrid& grid;
+    GridColumns columns;
+    std::vector<Title> titles;
+};

@@ -1,63 +1,25 @@
 #include "ui/grid/MapGridTable.h"
 
 #include "map/MapRow.h"
+#include "ui/Theme.h"
 #include "ui/ToolkitText.h"
-#include "ui/grid/VirtualRows.h"
 
 #include <algorithm>
-#include <array>
 
-namespace
-{
-
-constexpr std::array<const char*, mapColumnCount> labels{"*",    "Address", "Name",  "Type",
-                                                         "Size", "Write",   "Order", "Description"};
-
-} // namespace
-
-void MapGridTable::show(std::vector<int> addresses)
-{
-    const int before = GetNumberRows();
-    rows = std::move(addresses);
-    announceNewRows(*this, before, GetNumberRows());
-}
+static_assert(mapColumns.size() == mapColumnCount);
 
 std::optional<int> MapGridTable::rowOf(int address) const
 {
-    const auto found = std::lower_bound(rows.begin(), rows.end(), address);
-    if (found == rows.end() || *found != address)
+    const std::vector<int>& addresses = rowKeys();
+    const auto found = std::lower_bound(addresses.begin(), addresses.end(), address);
+    if (found == addresses.end() || *found != address)
         return std::nullopt;
-    return static_cast<int>(found - rows.begin());
+    return static_cast<int>(found - addresses.begin());
 }
 
-int MapGridTable::GetNumberCols()
+GridCell MapGridTable::cellOf(int address, int column) const
 {
-    return mapColumnCount;
-}
-
-wxString MapGridTable::GetValue(int row, int column)
-{
-    return toolkitText(fillMapRow(slotOf(row))[static_cast<std::size_t>(column)].text);
-}
-
-void MapGridTable::SetValue(int, int, const wxString&)
-{
-    // Registers are edited by commands, never in a cell.
-}
-
-wxString MapGridTable::GetColLabelValue(int column)
-{
-    return labels[static_cast<std::size_t>(column)];
-}
-
-wxGridCellAttr* MapGridTable::GetAttr(int row, int column, wxGridCellAttr::wxAttrKind)
-{
-    const bool centred = column == static_cast<int>(MapColumn::Marker);
-    return styles.share(fillMapRow(slotOf(row))[static_cast<std::size_t>(column)].colour,
-                        centred ? wxALIGN_CENTRE : wxALIGN_LEFT);
-}
-
-const RegisterEntry& MapGridTable::slotOf(int row) const
-{
-    return map.currentSlots()[static_cast<std::size_t>(addressOf(row))];
+    const RegisterEntry& slot = map.currentSlots()[static_cast<std::size_t>(address)];
+    const MapCell cell = fillMapRow(slot)[static_cast<std::size_t>(column)];
+    return {toolkitText(cell.text), theme::cellColour(cell.tone)};
 }

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// A colour as red, green, blue, each 0..255; turned into the toolkit's colour where something is painted.
+/// A colour as red, green, blue, each 0..255. It stays apart from the toolkit, so that colours can be constants.
 struct Rgb
 {
     std::uint8_t red = 0;
