@@ -69,6 +69,7 @@ protected:
     void OnMapGridCellDClick(wxGridEvent& event) override;
     void OnMapGridKeyDown(wxKeyEvent& event) override;
     void OnMapGridRightDown(wxMouseEvent& event) override;
+    void OnMapGridContextMenu(wxContextMenuEvent& event) override;
     void OnTimer(wxTimerEvent& event) override;
 
 private:

@@ -240,6 +240,7 @@ void MainFrameBase::connectEvents()
     mapGrid->Bind(wxEVT_GRID_SELECT_CELL, &MainFrameBase::OnMapGridSelectCell, this);
     mapGrid->Bind(wxEVT_KEY_DOWN, &MainFrameBase::OnMapGridKeyDown, this);
     mapGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &MainFrameBase::OnMapGridRightDown, this);
+    mapGrid->Bind(wxEVT_CONTEXT_MENU, &MainFrameBase::OnMapGridContextMenu, this);
     Bind(wxEVT_TIMER, &MainFrameBase::OnTimer, this, timer.GetId());
 
     const auto fitAfterwards = [this](wxSizeEvent& event)
@@ -322,6 +323,11 @@ void MainFrameBase::OnMapGridKeyDown(wxKeyEvent& event)
 }
 
 void MainFrameBase::OnMapGridRightDown(wxMouseEvent& event)
+{
+    event.Skip();
+}
+
+void MainFrameBase::OnMapGridContextMenu(wxContextMenuEvent& event)
 {
     event.Skip();
 }

@@ -38,6 +38,7 @@ protected:
     virtual void OnMapGridSelectCell(wxGridEvent& event);
     virtual void OnMapGridKeyDown(wxKeyEvent& event);
     virtual void OnMapGridRightDown(wxMouseEvent& event);
+    virtual void OnMapGridContextMenu(wxContextMenuEvent& event);
     virtual void OnTimer(wxTimerEvent& event);
 
     /// Lets a grid show the rows of a table, which it owns from then on; the column widths stay.

@@ -2,6 +2,7 @@
 
 #include "ui/CommandTable.h"
 #include "ui/MainFrame.h"
+#include "ui/grid/GridMenu.h"
 
 #include <wx/grid.h>
 #include <wx/menu.h>
@@ -18,12 +19,19 @@ void MainFrame::connectMenus()
 
 void MainFrame::showMapContextMenu(wxMouseEvent& event)
 {
-    mapGrid->GetGridWindow()->PopupMenu(contextMenu(CommandGrid::Map).get(), event.GetPosition());
+    popUpMenuUnderMouse(*mapGrid, *contextMenu(CommandGrid::Map), event.GetPosition());
 }
 
 void MainFrame::OnMapGridRightDown(wxMouseEvent& event)
 {
     showMapContextMenu(event);
+}
+
+void MainFrame::OnMapGridContextMenu(wxContextMenuEvent& event)
+{
+    // The mouse has opened the menu when its button went down; what is left are the keys, which name no place.
+    if (event.GetPosition() == wxDefaultPosition)
+        popUpMenuAtCursor(*mapGrid, *contextMenu(CommandGrid::Map));
 }
 
 void MainFrame::OnMapGridKeyDown(wxKeyEvent& event)

@@ -1,5 +1,6 @@
 #include "tests/ui/EditorWindow.h"
 
+#include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
 #include "ui/OpenDocument.h"
 #include "ui/ToolkitText.h"
@@ -103,6 +104,13 @@ void EditorWindow::clickMapRow(int row)
     simulator.MouseMove(onScreen.x, onScreen.y);
     simulator.MouseClick();
     EXPECT_TRUE(waitUntil([&] { return selectedMapRows() == std::vector<int>{row}; })) << "row " << row;
+}
+
+void EditorWindow::rightClickMapRow(int row)
+{
+    const int height = mapGrid->GetDefaultRowSize();
+    const wxPoint place = mapGrid->CalcScrolledPosition(wxPoint(100, row * height + height / 2));
+    rightClickOn(*mapGrid->GetGridWindow(), place.x, place.y);
 }
 
 void EditorWindow::focusMapGrid()

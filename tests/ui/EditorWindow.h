@@ -66,6 +66,10 @@ public:
     /// Selects one row of the map grid by clicking on it, and waits until it is.
     void clickMapRow(int row);
 
+    /// Presses the secondary mouse button over a row of the map grid that is in view.
+    /// @param row  the number of rows stands for the free place below the last one
+    void rightClickMapRow(int row);
+
     /// Gives the keyboard to the map grid and waits until it has it.
     void focusMapGrid();
 

@@ -59,11 +59,12 @@ const RegisterEntry& holding(EditorWindow& editor, int address)
     return slotAt(editor.registerMap().slots(RegisterSpace::Holding), address);
 }
 
-/// Takes an entry of the map grid's menu.
+/// Takes an entry of the map grid's menu, opened over the first selected row or beside all rows.
 void takeFromMenu(EditorWindow& editor, const std::string& entry)
 {
     const MenuScript menu(editor, entry);
-    rightClickOn(*editor.mapGrid->GetGridWindow(), 100, 10);
+    const std::vector<int> rows = editor.selectedMapRows();
+    editor.rightClickMapRow(rows.empty() ? editor.mapGrid->GetNumberRows() : rows.front());
     EXPECT_TRUE(waitUntil([&menu] { return menu.wasOpened(); }));
     EXPECT_EQ(menu.shownEntries(), menuEntries);
 }

@@ -217,7 +217,7 @@ TEST(MainFrameMoving, CompressEntryOfTheMenuDoesTheSame)
     editor.clickMapRow(1);
     editor.mapGrid->SelectRow(2, true);
     const MenuScript menu(editor, "Compress");
-    rightClickOn(*editor.mapGrid->GetGridWindow(), 100, 10);
+    editor.rightClickMapRow(1);
     ASSERT_TRUE(waitForRows(editor, {"00010", "00012", "00013"}));
     EXPECT_EQ(editor.cell(2, 2), "TANK_HIGH");
 }
