@@ -3,11 +3,11 @@
 #include "app/Installation.h"
 #include "ui/Desktop.h"
 #include "ui/MainFrame.h"
+#include "ui/MessageBox.h"
 #include "ui/OpenDocument.h"
 #include "ui/Paths.h"
 
 #include <wx/cmdline.h>
-#include <wx/msgdlg.h>
 
 #include <cstdlib>
 
@@ -22,9 +22,9 @@ bool MainApp::OnInit()
     const std::optional<wxString> suitePath = findInstallation();
     if (!suitePath)
     {
-        wxMessageBox("Cannot locate registry entries required by this program\n\n"
-                     "This program cannot continue and will now terminate",
-                     "Alert - Program cannot continue", wxOK | wxICON_ERROR);
+        messageBox("Cannot locate registry entries required by this program\n\n"
+                   "This program cannot continue and will now terminate",
+                   "Alert - Program cannot continue", wxOK | wxICON_ERROR);
         return true; // without a document there is nothing to run
     }
     document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);

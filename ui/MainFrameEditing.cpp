@@ -6,11 +6,11 @@
 #include "map/Locks.h"
 #include "map/TagPlacing.h"
 #include "ui/MainFrame.h"
+#include "ui/MessageBox.h"
 #include "ui/Messages.h"
 #include "ui/grid/MapGridTable.h"
 
 #include <wx/grid.h>
-#include <wx/msgdlg.h>
 
 void MainFrame::copySourceTags()
 {
@@ -39,7 +39,7 @@ void MainFrame::pasteRegisters()
     switch (::pasteRegisters(map, *target))
     {
     case PasteResult::NoRoom:
-        wxMessageBox(pasteRefusedText);
+        messageBox(pasteRefusedText);
         break;
     case PasteResult::Pasted:
         refreshMapView(-1);
@@ -90,7 +90,7 @@ void MainFrame::compressRegisters()
     switch (::compressRegisters(map.currentSlots(), collectSelection()))
     {
     case CompressResult::Locked:
-        wxMessageBox(compressRefusedText);
+        messageBox(compressRefusedText);
         break;
     case CompressResult::Compressed:
         document.validate();
@@ -116,7 +116,7 @@ void MainFrame::toggleLocks()
 
 void MainFrame::deleteErrorRegisters()
 {
-    if (wxMessageBox(purgeQuestionText, confirmationCaption, wxYES_NO, this) != wxYES)
+    if (messageBox(purgeQuestionText, confirmationCaption, wxYES_NO, this) != wxYES)
         return;
     ::deleteErrorRegisters(map);
     document.validate();

@@ -2,6 +2,7 @@
 
 #include "map/MapExport.h"
 #include "ui/MainFrame.h"
+#include "ui/MessageBox.h"
 #include "ui/Messages.h"
 #include "ui/Paths.h"
 
@@ -9,7 +10,6 @@
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/generic/aboutdlgg.h>
-#include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
 #include <wx/utils.h>
 
@@ -33,7 +33,7 @@ void MainFrame::exitAndSave()
 {
     if (map.isModified())
     {
-        const int answer = wxMessageBox("Save changes ?", confirmationCaption, wxYES_NO);
+        const int answer = messageBox("Save changes ?", confirmationCaption, wxYES_NO);
         // Esc and the box's close button are no answer to a question about a day's work: back to the editor.
         if (answer != wxYES && answer != wxNO)
             return;

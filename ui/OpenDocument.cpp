@@ -1,13 +1,12 @@
 #include "ui/OpenDocument.h"
 
+#include "ui/MessageBox.h"
 #include "ui/ToolkitText.h"
-
-#include <wx/msgdlg.h>
 
 void openDocument(Document& document)
 {
     const LoadResult result = document.loadDatabase();
     if (result != LoadResult::Loaded)
-        wxMessageBox(toolkitText(loadMessage(result)), "Message", wxOK);
+        messageBox(toolkitText(loadMessage(result)), "Message");
     document.loadDefinition();
 }

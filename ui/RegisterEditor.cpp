@@ -2,12 +2,12 @@
 
 #include "ui/ByteSwapHelp.h"
 #include "ui/DialogControls.h"
+#include "ui/MessageBox.h"
 #include "ui/ToolkitText.h"
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
-#include <wx/msgdlg.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/valnum.h>
@@ -138,7 +138,7 @@ void RegisterEditor::OnOk(wxCommandEvent&)
         EndModal(wxID_CANCEL);
         break;
     case EditConfirmation::NoLength:
-        wxMessageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
+        messageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
         break;
     }
 }

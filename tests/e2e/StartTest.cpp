@@ -26,6 +26,7 @@ TEST_F(Start, WithoutInstallationOnlyTheAlertIsShownAndTheExitCodeIsZero)
     const Control alert = program.waitForMessage("Cannot locate registry entries required by this program\n\n"
                                                  "This program cannot continue and will now terminate");
     EXPECT_EQ(screen.activeTitle(), "Alert - Program cannot continue");
+    EXPECT_TRUE(alert.find([](const Control& control) { return control.role() == "icon"; }));
     EXPECT_FALSE(program.showsMainWindow());
     program.clickButton(alert, "OK");
     EXPECT_EQ(program.waitForExit(), 0);
@@ -34,7 +35,9 @@ TEST_F(Start, WithoutInstallationOnlyTheAlertIsShownAndTheExitCodeIsZero)
 TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnEmptyMap)
 {
     ProgramUnderTest& program = start({});
-    program.clickButton(program.waitForMessage(noDatabase), "OK");
+    const Control message = program.waitForMessage(noDatabase);
+    EXPECT_EQ(screen.activeTitle(), "Message");
+    program.clickButton(message, "OK");
     program.waitForMainWindow();
     program.waitForText("  No errors");
     EXPECT_EQ(program.mapGrid().filledRows(), 0);
