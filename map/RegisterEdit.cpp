@@ -62,14 +62,20 @@ std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress)
     if (!isAddress(rowAddress))
         return std::nullopt;
     int address = rowAddress;
-    while (address > 0 && slotAt(slots, address).used && !isHead(slotAt(slots, address)))
+    while (address > 0 && isContinuation(slotAt(slots, address)))
         --address;
     return slotAt(slots, address).locked ? std::nullopt : std::optional(address);
 }
 
+RegisterEntry editedEntry(const RegisterSlots& slots, int head)
+{
+    const RegisterEntry& slot = slotAt(slots, head);
+    return slot.used ? slot : freeSlot(head);
+}
+
 EditRoom editRoom(const RegisterSlots& slots, int head)
 {
-    const std::int64_t count = slotAt(slots, head).registerCount;
+    const std::int64_t count = registersTaken(slotAt(slots, head));
     const auto behind = static_cast<int>(std::min<std::int64_t>(head + count, registersPerSpace));
 
     int firstUsed = behind;
@@ -131,6 +137,6 @@ void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited)
 {
     if (!isAddress(head) || slotAt(slots, head).locked)
         return;
-    clearSlots(slots, head, slotAt(slots, head).registerCount);
+    clearSlots(slots, head, registersTaken(slotAt(slots, head)));
     insertRegisters(slots, registersOf(entryOf(edited, head), head, edited.registerCount), head);
 }

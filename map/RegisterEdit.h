@@ -14,7 +14,13 @@
 /// @return address of the head or free slot, 0..65535; nothing when it is locked or `rowAddress` is no address
 std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress);
 
-/// How many registers an edited object may take. Both figures include its present count and end at 2147483647.
+/// What the editor shows for a head: the object's fields, or those of a free slot where no object stands, whatever a
+/// move has left there.
+/// @param head  0..65535
+RegisterEntry editedEntry(const RegisterSlots& slots, int head);
+
+/// How many registers an edited object may take. Both figures include its present count, which is 1 for a free slot,
+/// and end at 2147483647.
 struct EditRoom
 {
     std::int32_t freeRoom = 0;    ///< without disturbing any other object
@@ -87,8 +93,8 @@ struct EditedRegister
 
 /// Puts the edited object in the place of the one at `head` and moves what follows down as far as it has to.
 ///
-/// All slots of the old object are freed first. Byte-order flags that the type cannot carry are dropped. Registers
-/// beyond 65535 are dropped while the count stays; where a lock stops the moving, the registers written so far stay.
-/// Validation is left to the caller.
+/// All slots of the old object are freed first, or the one free slot that stands there. Byte-order flags that the type
+/// cannot carry are dropped. Registers beyond 65535 are dropped while the count stays; where a lock stops the moving,
+/// the registers written so far stay. Validation is left to the caller.
 /// @param head  0..65535, not locked; any other address does nothing
 void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited);

@@ -55,6 +55,20 @@ constexpr bool isHead(const RegisterEntry& slot)
     return slot.address == slot.startAddress;
 }
 
+/// True for a register of an object that is not its first; a slot that is not used continues nothing.
+constexpr bool isContinuation(const RegisterEntry& slot)
+{
+    return slot.used && !isHead(slot);
+}
+
+/// How many registers a command takes when it is given the first of them: those of the object, or one where the slot
+/// is not used. A move leaves the count of the object in the slots that it vacates, and that count says nothing about
+/// what stands there now.
+constexpr std::uint32_t registersTaken(const RegisterEntry& slot)
+{
+    return slot.used ? slot.registerCount : 1;
+}
+
 /// The byte-order flags as grids and exports show them: "B" or "-", "W" or "-", "L" or "-".
 inline std::array<char, 3> byteOrderCharacters(const RegisterEntry& slot)
 {

@@ -53,10 +53,10 @@ bool RegisterMap::eraseObject(RegisterSpace space, int address)
     const RegisterEntry& judge = currentSlots()[static_cast<std::size_t>(address)];
     if (judge.locked)
         return false;
-    if (isHead(judge))
-        clearSlots(slots(space), address, judge.registerCount);
-    else
+    if (isContinuation(judge))
         clearSlot(currentSpace, address);
+    else
+        clearSlots(slots(space), address, registersTaken(judge));
     return true;
 }
 

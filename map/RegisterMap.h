@@ -47,7 +47,8 @@ public:
     ///
     /// The tests look at the slot of the current space, whatever space is given: callers that erase in another space
     /// rely on that. A locked slot there refuses. A continuation slot there is cleared alone, in the current space.
-    /// Otherwise as many slots as the current space's slot counts are cleared in the given space, at most to 65535.
+    /// A head there clears as many slots as it counts in the given space, at most to 65535; a slot that is not used
+    /// clears one.
     /// @param address  0..65535; any other address erases nothing
     /// @return false when the slot is locked or the address is not valid
     bool eraseObject(RegisterSpace space, int address);

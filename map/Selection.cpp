@@ -21,7 +21,7 @@ std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const in
             break;
         if (!isAddress(row) || !isHead(slotAt(slots, row)))
             continue;
-        const std::int64_t behind = std::int64_t{row} + slotAt(slots, row).registerCount;
+        const std::int64_t behind = std::int64_t{row} + registersTaken(slotAt(slots, row));
         const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
         for (int address = row; address < end; ++address)
             addresses.push_back(address);

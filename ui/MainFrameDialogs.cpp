@@ -1,7 +1,6 @@
 // The commands that ask in a dialog of their own.
 
 #include "map/RegisterEdit.h"
-#include "map/SlotAccess.h"
 #include "map/TagnameReplace.h"
 #include "ui/MainFrame.h"
 #include "ui/RegisterEditor.h"
@@ -37,7 +36,7 @@ void MainFrame::editRegister()
     const std::optional<int> head = editedHead(slots, addresses.front());
     if (!head)
         return;
-    const RegisterEntry& entry = slotAt(slots, *head);
+    const RegisterEntry entry = editedEntry(slots, *head);
     const wxString spaceName = toolkitText(spaceDisplayName(static_cast<int>(map.currentSpace)));
     RegisterEditor dialog(mapGrid, wxID_ANY, wxString::Format("%s register %05d", spaceName, entry.address));
     dialog.showEntry(entry, editRoom(slots, *head));

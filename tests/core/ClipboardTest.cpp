@@ -361,14 +361,6 @@ TEST_F(Clipboard, DeleteOfAnObjectCutOffByTheEndFreesWhatIsThere)
     EXPECT_EQ(shown(65'532, 4), "BB..");
 }
 
-TEST_F(Clipboard, DeleteOfAVacatedHeadErasesItsOldExtent)
-{
-    drawAt(10, "AABB");
-    slotAt(map.currentSlots(), 10).used = false;
-    eraseRegisters(map, selected({10}));
-    EXPECT_EQ(shown(10, 4), "..BB");
-}
-
 TEST_F(Clipboard, CommandsLeaveTheOtherSpacesAlone)
 {
     for (const RegisterSpace space : allSpaces)

@@ -3,6 +3,7 @@
 #include "MapBuilder.h"
 #include "map/ErrorPurge.h"
 #include "map/Locks.h"
+#include "map/RegisterEdit.h"
 #include "map/Selection.h"
 #include "map/TagnameReplace.h"
 
@@ -46,7 +47,7 @@ public:
     /// @return what went differently; empty when nothing did
     std::string step()
     {
-        switch (chance.pick(0, 11))
+        switch (chance.pick(0, 12))
         {
         case 0:
             return copyOrErase();
@@ -66,6 +67,8 @@ public:
             return toggle();
         case 10:
             return replace();
+        case 11:
+            return edit();
         default:
             return chance.happens(15) ? purge() : changeSpace();
         }
@@ -242,6 +245,28 @@ private:
         replaceInTagnames(map.currentSlots(), rows, find, replacement);
         model.replace(rows, find, replacement);
         return verdict(true, "replace");
+    }
+
+    std::string edit()
+    {
+        const int row = randomAddress();
+        const std::optional<int> head = editedHead(map.currentSlots(), row);
+        if (head != model.editedHead(row))
+            return "edit: another head";
+        if (!head)
+            return "";
+        RegisterEntry entry = registerOf("EDITED", chance.oneOf({1, 2, 4, 5}));
+        entry.SwapWords = entry.SwapWords && entry.type != DataType::String;
+        entry.tagIndex = -1;
+        const bool sameEntry = editedEntry(map.currentSlots(), *head) == model.editedEntry(*head);
+        applyEdit(map.currentSlots(), *head,
+                  {.tagname = std::string(entry.tagname.view()),
+                   .description = std::string(entry.description.view()),
+                   .typeName = std::string(typeName(entry.type)),
+                   .SwapWords = entry.SwapWords,
+                   .registerCount = static_cast<std::int32_t>(entry.registerCount)});
+        model.edit(*head, entry);
+        return verdict(sameEntry, "edit of " + std::to_string(row));
     }
 
     std::string purge()

@@ -83,6 +83,11 @@ bool LiteralModel::eraseObject(int space, int address)
     const RegisterEntry judge = current(address);
     if (judge.locked)
         return false;
+    if (!judge.used)
+    {
+        clear(space, address);
+        return true;
+    }
     if (judge.address != judge.startAddress)
     {
         clear(currentSpace, address);
@@ -100,7 +105,8 @@ std::vector<int> LiteralModel::collectSelection(const std::vector<int>& rows) co
     {
         if (!inSpace(row) || current(row).address != current(row).startAddress)
             continue;
-        for (std::int64_t i = 0; i < current(row).registerCount && inSpace(row + i); ++i)
+        const std::int64_t count = current(row).used ? current(row).registerCount : 1;
+        for (std::int64_t i = 0; i < count && inSpace(row + i); ++i)
             addresses.push_back(static_cast<int>(row + i));
     }
     return addresses;
@@ -174,8 +180,13 @@ bool LiteralModel::append(int row)
 
 void LiteralModel::insertClipboard(int target)
 {
+    insert(clipboard, target);
+}
+
+void LiteralModel::insert(const std::vector<RegisterEntry>& elements, int target)
+{
     std::vector<int> ignored;
-    for (std::size_t i = 0; i < clipboard.size(); ++i)
+    for (std::size_t i = 0; i < elements.size(); ++i)
     {
         const int t = target + static_cast<int>(i);
         if (!inSpace(t))
@@ -192,7 +203,7 @@ void LiteralModel::insertClipboard(int target)
             writeCurrent(t + 1) = pushed;
             writeCurrent(t).used = false;
         }
-        RegisterEntry element = clipboard[i];
+        RegisterEntry element = elements[i];
         element.startAddress = element.startAddress - element.address + static_cast<std::uint32_t>(t);
         element.address = static_cast<std::uint32_t>(t);
         writeCurrent(t) = element;
@@ -314,4 +325,36 @@ void LiteralModel::replace(const std::vector<int>& addresses, const std::string&
         }
         writeCurrent(address).tagname = InternedText(name);
     }
+}
+
+std::optional<int> LiteralModel::editedHead(int row) const
+{
+    if (!inSpace(row))
+        return std::nullopt;
+    int address = row;
+    while (address > 0 && current(address).used && current(address).startAddress != current(address).address)
+        --address;
+    if (current(address).locked)
+        return std::nullopt;
+    return address;
+}
+
+RegisterEntry LiteralModel::editedEntry(int head) const
+{
+    return current(head).used ? current(head) : freeSlotAt(head);
+}
+
+void LiteralModel::edit(int head, const RegisterEntry& entry)
+{
+    const std::int64_t oldCount = editedEntry(head).registerCount;
+    for (std::int64_t i = 0; i < oldCount && inSpace(head + i); ++i)
+        clear(currentSpace, static_cast<int>(head + i));
+    std::vector<RegisterEntry> copies;
+    for (std::uint32_t i = 0; i < entry.registerCount; ++i)
+    {
+        copies.push_back(entry);
+        copies.back().startAddress = static_cast<std::uint32_t>(head);
+        copies.back().address = static_cast<std::uint32_t>(head) + i;
+    }
+    insert(copies, head);
 }

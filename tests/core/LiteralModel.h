@@ -8,6 +8,7 @@
 #include <array>
 #include <bitset>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,9 @@ public:
     void purge();
     void replace(const std::vector<int>& addresses, const std::string& find, const std::string& replacement);
     void insertClipboard(int target);
+    std::optional<int> editedHead(int row) const;
+    RegisterEntry editedEntry(int head) const;
+    void edit(int head, const RegisterEntry& entry);
 
     int currentSpace = 3;
     std::vector<RegisterEntry> clipboard;
@@ -54,6 +58,7 @@ private:
     RegisterEntry& writeCurrent(int address);
     void clear(int space, int address);
     bool eraseObject(int space, int address);
+    void insert(const std::vector<RegisterEntry>& elements, int target);
 
     std::unique_ptr<std::array<RegisterSlots, spaceCount>> spaces;
     std::array<std::bitset<pagesPerSpace>, spaceCount> touched;

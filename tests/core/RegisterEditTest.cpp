@@ -163,14 +163,6 @@ TEST_F(RegisterEdit, EnormousCountsSaturateTheRoom)
     }
 }
 
-TEST_F(RegisterEdit, StaleCountOfAVacatedSlotIsReadAsItStands)
-{
-    place(10, 3, "A");
-    slot(10).used = false;
-    slot(13).used = true;
-    EXPECT_EQ(editRoom(slots, 10).freeRoom, 3);
-}
-
 TEST_F(RegisterEdit, LengthEqualToARoomFitsIt)
 {
     const EditRoom room{3, 6};

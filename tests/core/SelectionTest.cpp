@@ -73,12 +73,3 @@ TEST(Selection, RowsOutsideTheSpaceArePassedOver)
     EXPECT_EQ(select(*slots, {-1, 65'536, std::numeric_limits<int>::min(), 65'535, std::numeric_limits<int>::max()}),
               (std::vector{65'535}));
 }
-
-TEST(Selection, VacatedHeadTakesItsOldCountAndVacatedContinuationNothing)
-{
-    const auto slots = drawnSpace(10, "AAA");
-    for (int address = 10; address <= 12; ++address)
-        slotAt(*slots, address).used = false;
-    EXPECT_EQ(select(*slots, {10}), (std::vector{10, 11, 12}));
-    EXPECT_TRUE(select(*slots, {11, 12}).empty());
-}

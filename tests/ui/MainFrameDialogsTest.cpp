@@ -177,6 +177,33 @@ TEST(MainFrameDialogs, FreeRegisterBecomesAnObject)
     EXPECT_FALSE(holding(editor, 7).used);
 }
 
+TEST(MainFrameDialogs, RegisterThatAnObjectHasLeftOpensEmptyAndTakesAnother)
+{
+    const PlantFiles files("HOLDING,00005,WORDS,FLOAT,TANK_LEVEL,Level,2,UNLOCKED,OK\n");
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.nextView();
+    editor.nextView();
+    editor.clickMapRow(5);
+    pressKey('=');
+    ASSERT_TRUE(waitUntil([&] { return !holding(editor, 5).used; }));
+    editor.clickMapRow(9); // else the next click would be the second one of a double-click
+    editor.clickMapRow(5);
+    workDialog<RegisterEditor>(editor, editTooltip,
+                               [](RegisterEditor& dialog)
+                               {
+                                   EXPECT_TRUE(dialog.tagnameField->IsEmpty());
+                                   EXPECT_TRUE(dialog.descriptionField->IsEmpty());
+                                   EXPECT_EQ(dialog.typeBox->GetValue(), "INT16");
+                                   EXPECT_EQ(dialog.lengthField->GetValue(), "1");
+                                   EXPECT_EQ(dialog.okButton->GetLabel(), "Ok");
+                                   typeOver(*dialog.tagnameField, "PUMP_RUN");
+                                   pressKey(WXK_RETURN);
+                               });
+    EXPECT_EQ(holding(editor, 5).tagname.view(), "PUMP_RUN");
+    EXPECT_EQ(holding(editor, 6).tagname.view(), "TANK_LEVEL");
+    EXPECT_EQ(holding(editor, 7).tagname.view(), "TANK_LEVEL");
+}
+
 TEST(MainFrameDialogs, CancelledOrNamelessEditChangesNothing)
 {
     const PlantFiles files(definition);
