@@ -1,8 +1,13 @@
 # One interface target carries language level, warnings and sanitizers for every target of the project.
+# The presets make warnings errors (CMAKE_COMPILE_WARNING_AS_ERROR): whoever builds with another compiler is not stopped.
 
 add_library(project_settings INTERFACE)
 target_compile_features(project_settings INTERFACE cxx_std_20)
-target_compile_options(project_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(MSVC)
+    target_compile_options(project_settings INTERFACE /W4 /utf-8)
+else()
+    target_compile_options(project_settings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 sees overlapping copies in std::string assignments that have none (GCC bug 105651).
     target_compile_options(project_settings INTERFACE -Wno-restrict)
