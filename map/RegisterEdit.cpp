@@ -107,8 +107,14 @@ std::optional<std::int32_t> parseLength(std::string_view text)
         text.remove_prefix(1);
     std::int32_t length = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), length);
-    if (error != std::errc() || end != text.data() + text.size())
+    if (error == std::errc::invalid_argument || end != text.data() + text.size())
         return std::nullopt;
+    if (error == std::errc::result_out_of_range)
+    {
+        // A number of many digits is a mistake to point out. Were it no number, it would count as one register.
+        using Limits = std::numeric_limits<std::int32_t>;
+        return text.starts_with('-') ? Limits::min() : Limits::max();
+    }
     return length;
 }
 

@@ -40,7 +40,7 @@ enum class SpaceCheck
 };
 
 /// Reads the editor's length field: blanks, a sign and digits, and nothing behind them.
-/// @return nothing when the text is no whole number of 32 bits
+/// @return the number, or the nearest that 32 bits hold; nothing when the text is no whole number
 std::optional<std::int32_t> parseLength(std::string_view text);
 
 /// Compares a length with the room; taking the room to the last register fits.

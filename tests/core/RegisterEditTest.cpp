@@ -193,10 +193,23 @@ TEST_F(RegisterEdit, WholeNumbersParseAsLength)
     EXPECT_EQ(parseLength("-2147483648"), std::numeric_limits<std::int32_t>::min());
 }
 
+TEST_F(RegisterEdit, LengthBeyond32BitsCountsAsTheLongestOrShortest)
+{
+    for (const char* text : {"2147483648", "99999999999", "+99999999999", " 00099999999999999999999999"})
+    {
+        EXPECT_EQ(parseLength(text), highestCount) << text;
+        EXPECT_EQ(checkSpace(text, {1, registersPerSpace}), SpaceCheck::TooLong) << text;
+    }
+    for (const char* text : {"-2147483649", "-99999999999"})
+    {
+        EXPECT_EQ(parseLength(text), std::numeric_limits<std::int32_t>::min()) << text;
+        EXPECT_EQ(confirmEdit("TAG", text), EditConfirmation::NoLength) << text;
+    }
+}
+
 TEST_F(RegisterEdit, AnythingElseDoesNotParseAsLength)
 {
-    for (const char* text :
-         {"", " ", "-", "+", "3x", "3 ", "x3", "+-3", "--3", "0x10", "2.5", "2147483648", "-2147483649"})
+    for (const char* text : {"", " ", "-", "+", "3x", "3 ", "x3", "+-3", "--3", "0x10", "2.5", "99999999999x"})
         EXPECT_EQ(parseLength(text), std::nullopt) << text;
 }
 
