@@ -1,7 +1,5 @@
 #include "ui/RegisterEditor.h"
 
-#include "ui/ByteSwapHelp.h"
-#include "ui/DialogControls.h"
 #include "ui/MessageBox.h"
 #include "ui/ToolkitText.h"
 
@@ -84,7 +82,7 @@ void RegisterEditor::showFieldsFor(const FieldVisibility& visibility)
 
 void RegisterEditor::offerOk(const wxString& text)
 {
-    dialogControls::setButtonText(*okButton, text);
+    setButtonText(*okButton, text);
     okButton->Show();
     // A button that is hidden may stop being the one that the Enter key presses, as it does with GTK.
     okButton->SetDefault();
@@ -119,11 +117,6 @@ void RegisterEditor::OnLengthChanged(wxCommandEvent&)
     Layout();
 }
 
-void RegisterEditor::OnByteSwapHelp(wxCommandEvent&)
-{
-    showByteSwapHelp();
-}
-
 void RegisterEditor::OnOk(wxCommandEvent&)
 {
     // A default button that is hidden may still be pressed by the Enter key.
@@ -141,9 +134,4 @@ void RegisterEditor::OnOk(wxCommandEvent&)
         messageBox(noLengthText, wxMessageBoxCaptionStr, wxOK | wxCENTRE, this);
         break;
     }
-}
-
-void RegisterEditor::OnCancel(wxCommandEvent&)
-{
-    EndModal(wxID_CANCEL);
 }

@@ -19,9 +19,7 @@ public:
 protected:
     void OnTypeChanged(wxCommandEvent& event) override;
     void OnLengthChanged(wxCommandEvent& event) override;
-    void OnByteSwapHelp(wxCommandEvent& event) override;
     void OnOk(wxCommandEvent& event) override;
-    void OnCancel(wxCommandEvent& event) override;
 
 private:
     void showFieldsFor(const FieldVisibility& visibility);

@@ -1,6 +1,5 @@
 #include "ui/RegisterEditorBase.h"
 
-#include "ui/DialogControls.h"
 #include "ui/Theme.h"
 
 #include <wx/button.h>
@@ -13,9 +12,6 @@
 namespace
 {
 
-/// Pixels around the whole.
-constexpr int margin = 8;
-
 /// Pixels of the type box, and of the length field beneath it.
 constexpr int typeWidth = 150;
 
@@ -26,28 +22,20 @@ constexpr int textWidth = 380;
 
 RegisterEditorBase::RegisterEditorBase(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& position,
                                        const wxSize& size)
-    : wxDialog(parent, id, title, position, size, wxDEFAULT_DIALOG_STYLE)
+    : DialogBase(parent, id, title, position, size)
 {
-    SetSizeHints(wxDefaultSize, wxDefaultSize);
-    dialogControls::dress(*this);
-
     auto* const content = new wxBoxSizer(wxVERTICAL);
     content->Add(layFields(), 0, wxEXPAND);
     createStatusLabel();
     content->AddStretchSpacer();
-    content->Add(statusLabel, 0, wxEXPAND | wxALL, FromDIP(dialogControls::border));
+    content->Add(statusLabel, 0, wxEXPAND | wxALL, FromDIP(border));
     content->AddStretchSpacer();
-    okButton = dialogControls::createButton(this, wxID_OK, "Ok");
-    cancelButton = dialogControls::createButton(this, wxID_CANCEL, "Cancel");
-    content->Add(dialogControls::layButtons(okButton, cancelButton), 0, wxEXPAND);
+    okButton = createButton(wxID_OK, "Ok");
+    content->Add(layEnding(okButton), 0, wxEXPAND);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(content, 1, wxEXPAND | wxALL, FromDIP(margin));
-    SetSizer(sizer);
-    Layout();
-    sizer->Fit(this);
-    CentreOnParent();
+    lay(sizer);
 
-    okButton->SetDefault();
     tagnameField->SetFocus();
     connectEvents();
 }
@@ -56,17 +44,17 @@ wxSizer* RegisterEditorBase::layFields()
 {
     auto* const sizer = new wxFlexGridSizer(2, 0, 0);
     sizer->AddGrowableCol(1);
-    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(dialogControls::border));
-    const wxSizerFlags wide = wxSizerFlags().Expand().Border(wxALL, FromDIP(dialogControls::border));
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
+    const wxSizerFlags wide = wxSizerFlags().Expand().Border(wxALL, FromDIP(border));
     const auto addLabel = [this, sizer, flags](const wxString& text)
     {
-        wxStaticText* const label = dialogControls::createLabel(this, text);
+        wxStaticText* const label = createLabel(text);
         sizer->Add(label, flags);
         return label;
     };
 
     addLabel("Tagname");
-    tagnameField = dialogControls::createField(this, textWidth);
+    tagnameField = createField(textWidth);
     sizer->Add(tagnameField, wide);
 
     addLabel("Type");
@@ -74,18 +62,18 @@ wxSizer* RegisterEditorBase::layFields()
     sizer->Add(typeBox, flags);
 
     lengthLabel = addLabel("Length");
-    lengthField = dialogControls::createField(this, typeWidth);
+    lengthField = createField(typeWidth);
     sizer->Add(lengthField, flags);
 
     addLabel("Write");
-    writeBox = dialogControls::createCheckBox(this);
+    writeBox = createCheckBox();
     sizer->Add(writeBox, flags);
 
     byteOrderLabel = addLabel("Byte Order");
     sizer->Add(layByteOrder(), flags);
 
     addLabel("Description");
-    descriptionField = dialogControls::createField(this, textWidth);
+    descriptionField = createField(textWidth);
     sizer->Add(descriptionField, wide);
     return sizer;
 }
@@ -101,13 +89,13 @@ void RegisterEditorBase::createTypeBox()
 
 wxSizer* RegisterEditorBase::layByteOrder()
 {
-    swapBytesBox = dialogControls::createCheckBox(this, "Swap Bytes");
-    swapWordsBox = dialogControls::createCheckBox(this, "Swap Words");
-    swapLongsBox = dialogControls::createCheckBox(this, "Swap Longs");
-    byteSwapHelpButton = dialogControls::createHelpButton(this);
+    swapBytesBox = createCheckBox("Swap Bytes");
+    swapWordsBox = createCheckBox("Swap Words");
+    swapLongsBox = createCheckBox("Swap Longs");
+    byteSwapHelpButton = createHelpButton();
 
     auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
-    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxRIGHT, 2 * FromDIP(dialogControls::border));
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxRIGHT, 2 * FromDIP(border));
     sizer->Add(swapBytesBox, flags);
     sizer->Add(swapWordsBox, flags);
     sizer->Add(swapLongsBox, flags);
@@ -129,17 +117,11 @@ void RegisterEditorBase::connectEvents()
     typeBox->Bind(wxEVT_COMBOBOX, &RegisterEditorBase::OnTypeChanged, this);
     typeBox->Bind(wxEVT_TEXT, &RegisterEditorBase::OnTypeChanged, this);
     lengthField->Bind(wxEVT_TEXT, &RegisterEditorBase::OnLengthChanged, this);
-    byteSwapHelpButton->Bind(wxEVT_BUTTON, &RegisterEditorBase::OnByteSwapHelp, this);
     okButton->Bind(wxEVT_BUTTON, &RegisterEditorBase::OnOk, this);
-    cancelButton->Bind(wxEVT_BUTTON, &RegisterEditorBase::OnCancel, this);
 }
 
 void RegisterEditorBase::OnTypeChanged(wxCommandEvent&) {}
 
 void RegisterEditorBase::OnLengthChanged(wxCommandEvent&) {}
 
-void RegisterEditorBase::OnByteSwapHelp(wxCommandEvent&) {}
-
 void RegisterEditorBase::OnOk(wxCommandEvent&) {}
-
-void RegisterEditorBase::OnCancel(wxCommandEvent&) {}

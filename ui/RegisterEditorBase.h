@@ -1,15 +1,11 @@
 #pragma once
 
-#include <wx/dialog.h>
+#include "ui/DialogBase.h"
 
-class wxButton;
-class wxCheckBox;
 class wxComboBox;
-class wxStaticText;
-class wxTextCtrl;
 
 /// The layout of the dialog that edits one object of the register map.
-class RegisterEditorBase : public wxDialog
+class RegisterEditorBase : public DialogBase
 {
 public:
     explicit RegisterEditorBase(wxWindow* parent, wxWindowID id = wxID_ANY, const wxString& title = wxString(),
@@ -29,14 +25,11 @@ public:
     wxTextCtrl* descriptionField = nullptr;
     wxStaticText* statusLabel = nullptr;
     wxButton* okButton = nullptr;
-    wxButton* cancelButton = nullptr;
 
 protected:
     virtual void OnTypeChanged(wxCommandEvent& event);
     virtual void OnLengthChanged(wxCommandEvent& event);
-    virtual void OnByteSwapHelp(wxCommandEvent& event);
     virtual void OnOk(wxCommandEvent& event);
-    virtual void OnCancel(wxCommandEvent& event);
 
 private:
     wxSizer* layFields();

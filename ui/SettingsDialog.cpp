@@ -1,7 +1,5 @@
 #include "ui/SettingsDialog.h"
 
-#include "ui/ByteSwapHelp.h"
-
 #include <wx/checkbox.h>
 
 void SettingsDialog::showByteOrder(const DefaultByteOrder& order)
@@ -24,17 +22,7 @@ DefaultByteOrder SettingsDialog::byteOrder() const
             .floatSwapLongs = floatSwapLongs->IsChecked()};
 }
 
-void SettingsDialog::OnByteSwapHelp(wxCommandEvent&)
-{
-    showByteSwapHelp();
-}
-
 void SettingsDialog::OnOk(wxCommandEvent&)
 {
     EndModal(wxID_OK);
-}
-
-void SettingsDialog::OnCancel(wxCommandEvent&)
-{
-    EndModal(wxID_CANCEL);
 }

@@ -17,7 +17,5 @@ public:
     DefaultByteOrder byteOrder() const;
 
 protected:
-    void OnByteSwapHelp(wxCommandEvent& event) override;
     void OnOk(wxCommandEvent& event) override;
-    void OnCancel(wxCommandEvent& event) override;
 };

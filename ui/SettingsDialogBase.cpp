@@ -1,6 +1,5 @@
 #include "ui/SettingsDialogBase.h"
 
-#include "ui/DialogControls.h"
 #include "ui/Theme.h"
 
 #include <wx/button.h>
@@ -14,9 +13,6 @@ namespace
 /// Pixels at which the explanation is wrapped.
 constexpr int explanationWidth = 300;
 
-/// Pixels around the whole.
-constexpr int margin = 8;
-
 /// Columns of the byte-order grid: the kind of object, bytes, words, longs.
 constexpr int columns = 4;
 
@@ -24,40 +20,29 @@ constexpr int columns = 4;
 
 SettingsDialogBase::SettingsDialogBase(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& position,
                                        const wxSize& size)
-    : wxDialog(parent, id, title, position, size, wxDEFAULT_DIALOG_STYLE)
+    : DialogBase(parent, id, title, position, size)
 {
-    SetSizeHints(wxDefaultSize, wxDefaultSize);
-    dialogControls::dress(*this);
-
     auto* const content = new wxBoxSizer(wxVERTICAL);
-    const int border = FromDIP(dialogControls::border);
     content->Add(layHeading(), 0, wxEXPAND);
-    content->Add(createExplanation(), 0, wxALL, border);
-    content->Add(layByteOrder(), 0, wxEXPAND | wxTOP | wxBOTTOM, border);
-    okButton = dialogControls::createButton(this, wxID_OK, "Ok");
-    cancelButton = dialogControls::createButton(this, wxID_CANCEL, "Cancel");
-    content->Add(dialogControls::layButtons(okButton, cancelButton), 0, wxEXPAND);
+    content->Add(createExplanation(), 0, wxALL, FromDIP(border));
+    content->Add(layByteOrder(), 0, wxEXPAND | wxTOP | wxBOTTOM, FromDIP(border));
+    okButton = createButton(wxID_OK, "Ok");
+    content->Add(layEnding(okButton), 0, wxEXPAND);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(content, 1, wxEXPAND | wxALL, FromDIP(margin));
-    SetSizer(sizer);
-    Layout();
-    sizer->Fit(this);
-    CentreOnParent();
+    lay(sizer);
 
-    okButton->SetDefault();
     floatSwapBytes->SetFocus();
-    byteSwapHelpButton->Bind(wxEVT_BUTTON, &SettingsDialogBase::OnByteSwapHelp, this);
     okButton->Bind(wxEVT_BUTTON, &SettingsDialogBase::OnOk, this);
-    cancelButton->Bind(wxEVT_BUTTON, &SettingsDialogBase::OnCancel, this);
 }
 
 wxSizer* SettingsDialogBase::layHeading()
 {
-    byteSwapHelpButton = dialogControls::createHelpButton(this);
+    byteSwapHelpButton = createHelpButton();
 
     auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
-    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(dialogControls::border));
-    sizer->Add(dialogControls::createLabel(this, "Default Byte Ordering"), flags);
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
+    sizer->Add(createLabel("Default Byte Ordering"), flags);
     sizer->Add(byteSwapHelpButton, flags);
     return sizer;
 }
@@ -77,14 +62,14 @@ wxStaticText* SettingsDialogBase::createExplanation()
 wxSizer* SettingsDialogBase::layByteOrder()
 {
     auto* const sizer = new wxFlexGridSizer(columns, 0, 0);
-    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(dialogControls::border));
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
     const auto add = [sizer, flags](auto* control)
     {
         sizer->Add(control, flags);
         return control;
     };
-    const auto addLabel = [this, add](const wxString& text) { return add(dialogControls::createLabel(this, text)); };
-    const auto addBox = [this, add] { return add(dialogControls::createCheckBox(this)); };
+    const auto addLabel = [this, add](const wxString& text) { return add(createLabel(text)); };
+    const auto addBox = [this, add] { return add(createCheckBox()); };
 
     sizer->AddSpacer(0);
     addLabel("Swap");
@@ -112,8 +97,4 @@ wxSizer* SettingsDialogBase::layByteOrder()
     return sizer;
 }
 
-void SettingsDialogBase::OnByteSwapHelp(wxCommandEvent&) {}
-
 void SettingsDialogBase::OnOk(wxCommandEvent&) {}
-
-void SettingsDialogBase::OnCancel(wxCommandEvent&) {}

@@ -1,16 +1,12 @@
 #pragma once
 
-#include <wx/dialog.h>
-
-class wxButton;
-class wxCheckBox;
-class wxStaticText;
+#include "ui/DialogBase.h"
 
 /// The layout of the settings dialog: the default byte order of float and of whole-number objects.
 ///
 /// Only the swaps that the made objects can carry are shown; the other boxes exist, hidden, so that a flag which came
 /// from elsewhere passes through the dialog unchanged.
-class SettingsDialogBase : public wxDialog
+class SettingsDialogBase : public DialogBase
 {
 public:
     explicit SettingsDialogBase(wxWindow* parent, wxWindowID id = wxID_ANY, const wxString& title = "Settings",
@@ -26,12 +22,9 @@ public:
     wxCheckBox* intSwapWords = nullptr;
     wxCheckBox* intSwapLongs = nullptr;
     wxButton* okButton = nullptr;
-    wxButton* cancelButton = nullptr;
 
 protected:
-    virtual void OnByteSwapHelp(wxCommandEvent& event);
     virtual void OnOk(wxCommandEvent& event);
-    virtual void OnCancel(wxCommandEvent& event);
 
 private:
     wxSizer* layHeading();

@@ -4,8 +4,3 @@ void TagSearchAndReplaceDialog::OnReplace(wxCommandEvent&)
 {
     EndModal(wxID_OK);
 }
-
-void TagSearchAndReplaceDialog::OnCancel(wxCommandEvent&)
-{
-    EndModal(wxID_CANCEL);
-}

@@ -11,5 +11,4 @@ public:
 
 protected:
     void OnReplace(wxCommandEvent& event) override;
-    void OnCancel(wxCommandEvent& event) override;
 };

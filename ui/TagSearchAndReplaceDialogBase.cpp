@@ -1,7 +1,5 @@
 #include "ui/TagSearchAndReplaceDialogBase.h"
 
-#include "ui/DialogControls.h"
-
 #include <wx/button.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -9,9 +7,6 @@
 
 namespace
 {
-
-/// Pixels around the fields.
-constexpr int fieldsBorder = 8;
 
 /// Pixels of a field, enough for most tagnames.
 constexpr int fieldWidth = 220;
@@ -23,39 +18,29 @@ constexpr int buttonGap = 10;
 
 TagSearchAndReplaceDialogBase::TagSearchAndReplaceDialogBase(wxWindow* parent, wxWindowID id, const wxString& title,
                                                              const wxPoint& position, const wxSize& size)
-    : wxDialog(parent, id, title, position, size, wxDEFAULT_DIALOG_STYLE)
+    : DialogBase(parent, id, title, position, size)
 {
-    SetSizeHints(wxDefaultSize, wxDefaultSize);
-    dialogControls::dress(*this);
-
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     wxSizer* const fields = layFields();
-    replaceButton = dialogControls::createButton(this, wxID_OK, "Replace");
-    cancelButton = dialogControls::createButton(this, wxID_CANCEL, "Cancel");
-    sizer->Add(fields, 0, wxEXPAND | wxALL, FromDIP(fieldsBorder));
+    replaceButton = createButton(wxID_OK, "Replace");
+    sizer->Add(fields, 0, wxEXPAND | wxALL, FromDIP(margin));
     sizer->Add(0, FromDIP(buttonGap), 1, wxEXPAND);
-    sizer->Add(dialogControls::layButtons(replaceButton, cancelButton), 0, wxEXPAND | wxALL,
-               FromDIP(dialogControls::border));
-    SetSizer(sizer);
-    Layout();
-    sizer->Fit(this);
-    Centre(wxBOTH);
+    sizer->Add(layEnding(replaceButton), 0, wxEXPAND | wxALL, FromDIP(border));
+    lay(sizer);
 
-    replaceButton->SetDefault();
     findText->SetFocus();
     replaceButton->Bind(wxEVT_BUTTON, &TagSearchAndReplaceDialogBase::OnReplace, this);
-    cancelButton->Bind(wxEVT_BUTTON, &TagSearchAndReplaceDialogBase::OnCancel, this);
 }
 
 wxSizer* TagSearchAndReplaceDialogBase::layFields()
 {
-    findLabel = dialogControls::createLabel(this, "Find in Tagname");
-    findText = dialogControls::createField(this, fieldWidth);
-    replaceLabel = dialogControls::createLabel(this, "Replace with");
-    replaceText = dialogControls::createField(this, fieldWidth);
+    findLabel = createLabel("Find in Tagname");
+    findText = createField(fieldWidth);
+    replaceLabel = createLabel("Replace with");
+    replaceText = createField(fieldWidth);
 
     auto* const sizer = new wxGridSizer(2);
-    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(dialogControls::border));
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
     sizer->Add(findLabel, flags);
     sizer->Add(findText, flags);
     sizer->Add(replaceLabel, flags);
@@ -64,5 +49,3 @@ wxSizer* TagSearchAndReplaceDialogBase::layFields()
 }
 
 void TagSearchAndReplaceDialogBase::OnReplace(wxCommandEvent&) {}
-
-void TagSearchAndReplaceDialogBase::OnCancel(wxCommandEvent&) {}

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <wx/dialog.h>
-
-class wxButton;
-class wxStaticText;
-class wxTextCtrl;
+#include "ui/DialogBase.h"
 
 /// The layout of the dialog that asks for a text to find in tagnames and for the text to put in its place.
-class TagSearchAndReplaceDialogBase : public wxDialog
+class TagSearchAndReplaceDialogBase : public DialogBase
 {
 public:
     TagSearchAndReplaceDialogBase(wxWindow* parent, wxWindowID id, const wxString& title,
@@ -17,13 +13,11 @@ public:
     wxStaticText* findLabel = nullptr;
     wxStaticText* replaceLabel = nullptr;
     wxButton* replaceButton = nullptr;
-    wxButton* cancelButton = nullptr;
     wxTextCtrl* findText = nullptr;
     wxTextCtrl* replaceText = nullptr;
 
 protected:
     virtual void OnReplace(wxCommandEvent& event);
-    virtual void OnCancel(wxCommandEvent& event);
 
 private:
     wxSizer* layFields();

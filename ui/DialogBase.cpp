@@ -1,0 +1,120 @@
+#include "ui/DialogBase.h"
+
+#include "ui/ByteSwapHelp.h"
+#include "ui/Desktop.h"
+#include "ui/Theme.h"
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Pixels beside the text of a button.
+constexpr int buttonPadding = 12;
+
+} // namespace
+
+DialogBase::DialogBase(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& position,
+                       const wxSize& size)
+    : wxDialog(parent, id, title, position, size, wxDEFAULT_DIALOG_STYLE)
+{
+    SetSizeHints(wxDefaultSize, wxDefaultSize);
+    SetFont(theme::dialog());
+    SetForegroundColour(theme::colour(theme::dialogText));
+    SetBackgroundColour(theme::colour(theme::dialogBackground));
+}
+
+void DialogBase::OnCancel(wxCommandEvent&)
+{
+    EndModal(wxID_CANCEL);
+}
+
+void DialogBase::OnByteSwapHelp(wxCommandEvent&)
+{
+    showByteSwapHelp();
+}
+
+wxStaticText* DialogBase::createLabel(const wxString& text)
+{
+    auto* const label = new wxStaticText(this, wxID_ANY, text);
+    label->SetFont(theme::semibold(10));
+    label->SetForegroundColour(theme::colour(theme::title));
+    // A label that is hidden while its window appears is measured in another font by the toolkit with GTK.
+    label->SetMinSize(wxSize(label->GetTextExtent(text).GetWidth(), -1));
+    return label;
+}
+
+wxTextCtrl* DialogBase::createField(int width)
+{
+    auto* const field = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxBORDER_SIMPLE);
+    field->SetFont(theme::regular(9));
+    field->SetForegroundColour(theme::colour(theme::entryText));
+    field->SetBackgroundColour(theme::colour(theme::entryBackground));
+    field->SetMinSize(wxSize(field->FromDIP(width), desktop::fieldHeight(*field)));
+    return field;
+}
+
+wxCheckBox* DialogBase::createCheckBox(const wxString& text)
+{
+    auto* const box = new wxCheckBox(this, wxID_ANY, text);
+    box->SetFont(theme::regular(9));
+    box->SetForegroundColour(theme::colour(theme::entryText));
+    box->SetBackgroundColour(theme::colour(theme::entryBackground));
+    return box;
+}
+
+wxButton* DialogBase::createButton(wxWindowID id, const wxString& text)
+{
+    auto* const button = new wxButton(this, id, text, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
+    button->SetFont(theme::regular(9));
+    button->SetForegroundColour(theme::colour(theme::buttonText));
+    button->SetBackgroundColour(theme::buttonBackground());
+    return button;
+}
+
+void DialogBase::setButtonText(wxButton& button, const wxString& text)
+{
+    button.SetLabel(text);
+    const int needed = button.GetTextExtent(text).GetWidth() + 2 * button.FromDIP(buttonPadding);
+    button.SetMinSize(wxSize(std::max(needed, wxButton::GetDefaultSize(&button).GetWidth()), -1));
+}
+
+wxButton* DialogBase::createHelpButton()
+{
+    auto* const button =
+        new wxButton(this, wxID_ANY, " ? ", wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxBU_EXACTFIT);
+    button->SetFont(theme::helpButton());
+    button->SetForegroundColour(theme::colour(theme::helpButtonText));
+    button->SetBackgroundColour(theme::colour(theme::helpButtonBackground));
+    button->Bind(wxEVT_BUTTON, &DialogBase::OnByteSwapHelp, this);
+    return button;
+}
+
+wxSizer* DialogBase::layEnding(wxButton* confirm)
+{
+    cancelButton = createButton(wxID_CANCEL, "Cancel");
+    cancelButton->Bind(wxEVT_BUTTON, &DialogBase::OnCancel, this);
+    confirm->SetDefault();
+
+    auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
+    const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
+    sizer->AddStretchSpacer();
+    sizer->Add(confirm, flags);
+    sizer->Add(cancelButton, flags);
+    sizer->AddStretchSpacer();
+    return sizer;
+}
+
+void DialogBase::lay(wxSizer* content)
+{
+    SetSizer(content);
+    Layout();
+    content->Fit(this);
+    Centre(wxBOTH);
+}
