@@ -1,24 +1,16 @@
 #include "json/JsonNumber.h"
 
-#include "text/Integers.h"
-
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 
 namespace
 {
 
-constexpr std::string_view blanks = " \t\r\n";
-
-/// A number taken apart; its parts are digits only.
-struct Decimal
-{
-    bool negative = false;
-    std::string_view whole;
-    std::string_view fraction;
-    std::int32_t exponent = 0;
-};
+constexpr std::string_view digits = "0123456789";
 
 bool take(std::string_view& text, char c)
 {
@@ -30,50 +22,29 @@ bool take(std::string_view& text, char c)
 
 std::string_view takeDigits(std::string_view& text)
 {
-    const std::size_t length = std::min(text.find_first_not_of("0123456789"), text.size());
-    const std::string_view digits = text.substr(0, length);
+    const std::size_t length = std::min(text.find_first_not_of(digits), text.size());
+    const std::string_view taken = text.substr(0, length);
     text.remove_prefix(length);
-    return digits;
+    return taken;
 }
 
-/// Takes an exponent with its letter; nothing there is an exponent of 0.
-/// @return nothing when the letter stands without digits
-std::optional<std::int32_t> takeExponent(std::string_view& text)
+/// Takes an exponent with its letter, if there is one.
+/// @return false when the letter stands without digits
+bool takeExponent(std::string_view& text)
 {
     if (!take(text, 'e') && !take(text, 'E'))
-        return 0;
-    const std::string_view exponent = text;
+        return true;
     if (!take(text, '-'))
         take(text, '+');
-    if (takeDigits(text).empty())
-        return std::nullopt;
-    return parseInteger(exponent);
+    return !takeDigits(text).empty();
 }
 
-std::optional<Decimal> readDecimal(std::string_view text)
+/// The value of digits and nothing else, modulo two to the power of 32.
+std::optional<std::uint32_t> lowBitsOfDigits(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    text = text.substr(0, text.find_last_not_of(blanks) + 1);
-
-    Decimal number;
-    number.negative = take(text, '-');
-    if (!number.negative)
-        take(text, '+');
-    number.whole = takeDigits(text);
-    if (take(text, '.'))
-        number.fraction = takeDigits(text);
-    if (number.whole.empty() && number.fraction.empty())
+    if (text.empty())
         return std::nullopt;
-    const auto exponent = takeExponent(text);
-    if (!exponent || !text.empty())
-        return std::nullopt;
-    number.exponent = *exponent;
-    return number;
-}
-
-/// Digits and nothing else, which is what nearly all numbers of a file are.
-std::optional<std::uint32_t> plainNumber(std::string_view text)
-{
+    // Arithmetic without sign wraps, so what is kept are the low bits of the exact value, however long it is.
     std::uint32_t bits = 0;
     for (const char c : text)
     {
@@ -82,6 +53,26 @@ std::optional<std::uint32_t> plainNumber(std::string_view text)
         bits = bits * 10U + static_cast<std::uint32_t>(c - '0');
     }
     return bits;
+}
+
+/// Reads all of a number without a sign.
+std::optional<double> unsignedValue(std::string_view text)
+{
+    // The library would also take "inf", "nan" and a minus.
+    if (text.empty() || (text.front() != '.' && digits.find(text.front()) == std::string_view::npos))
+        return std::nullopt;
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc() || stop != end)
+        return std::nullopt;
+    return value;
+}
+
+std::uint32_t lowBits(double value)
+{
+    constexpr double twoToThe32 = 4294967296.0;
+    return static_cast<std::uint32_t>(std::fmod(std::trunc(value), twoToThe32));
 }
 
 } // namespace
@@ -94,31 +85,42 @@ bool isJsonNumber(std::string_view text)
         return false;
     if (take(text, '.') && takeDigits(text).empty())
         return false;
-    return takeExponent(text).has_value() && text.empty();
+    return takeExponent(text) && text.empty();
+}
+
+std::string decimalText(std::string_view number)
+{
+    std::string_view magnitude = number;
+    const bool negative = take(magnitude, '-');
+    if (magnitude == "0")
+        return "0";
+    if (magnitude.find_first_not_of(digits) == std::string_view::npos)
+        return std::string(number);
+    const auto value = unsignedValue(magnitude);
+    if (!value)
+        return {};
+    if (*value == 0)
+        return "0";
+    // The smallest numbers are the longest: "0.", 323 zeros and up to 17 digits.
+    std::array<char, 400> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), *value, std::chars_format::fixed).ptr;
+    return (negative ? "-" : "") + std::string(text.data(), end);
 }
 
 std::uint32_t wholeNumberBits(std::string_view text)
 {
-    if (const auto bits = plainNumber(text))
-        return *bits;
-    const auto number = readDecimal(text);
-    if (!number)
-        return 0;
+    constexpr std::string_view blanks = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    text = text.substr(0, text.find_last_not_of(blanks) + 1);
+    const bool negative = take(text, '-');
+    if (!negative)
+        take(text, '+');
 
-    // Arithmetic without sign wraps, so what is kept are the low bits of the exact value.
-    std::uint32_t bits = 0;
-    std::int64_t digitsLeft = static_cast<std::int64_t>(number->whole.size()) + number->exponent;
-    for (const std::string_view digits : {number->whole, number->fraction})
+    auto bits = lowBitsOfDigits(text);
+    if (!bits)
     {
-        for (const char digit : digits)
-        {
-            if (digitsLeft-- <= 0)
-                break;
-            bits = bits * 10U + static_cast<std::uint32_t>(digit - '0');
-        }
+        if (const auto value = unsignedValue(text))
+            bits = lowBits(*value);
     }
-    // Ten to the power of 32 is a multiple of two to the power of 32: further zeros change nothing.
-    for (std::int64_t zeros = std::min<std::int64_t>(digitsLeft, 32); zeros > 0; --zeros)
-        bits *= 10U;
-    return number->negative ? 0U - bits : bits;
+    return negative ? 0U - bits.value_or(0) : bits.value_or(0);
 }

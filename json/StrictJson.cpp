@@ -1,7 +1,7 @@
 #include "json/StrictJson.h"
 
+#include "json/JsonEscape.h"
 #include "json/JsonNumber.h"
-#include "text/Characters.h"
 
 #include <algorithm>
 #include <array>
@@ -10,10 +10,21 @@
 namespace
 {
 
+/// Line ends are gone by now, and other blanks are none to JSON.
+bool isJsonBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
 /// True for what ends a number or a literal.
 bool endsWord(char c)
 {
-    return isBlank(c) || std::string_view("{}[],:\"/").find(c) != std::string_view::npos;
+    return isJsonBlank(c) || std::string_view("{}[],:\"/").find(c) != std::string_view::npos;
+}
+
+bool isControlCharacter(char c)
+{
+    return static_cast<unsigned char>(c) < 0x20;
 }
 
 char lowerCase(char c)
@@ -80,6 +91,8 @@ private:
     bool skipBlanks();
     bool takeToken();
     bool takeString();
+    bool takeContent();
+    void appendEscaped(char controlCharacter);
     bool takeWord();
     bool openBracket(char bracket);
     bool closeBracket(char bracket);
@@ -103,7 +116,7 @@ bool Rewriter::skipBlanks()
     constexpr auto none = std::string_view::npos;
     for (;;)
     {
-        while (position < text.size() && isBlank(text[position]))
+        while (position < text.size() && isJsonBlank(text[position]))
             ++position;
         const std::string_view ahead = text.substr(position, 2);
         if (ahead == "//")
@@ -149,32 +162,63 @@ bool Rewriter::takeToken()
 
 bool Rewriter::takeString()
 {
-    std::size_t end = position + 1;
-    while (end < text.size() && text[end] != '"')
-        end += text[end] == '\\' ? 2 : 1;
-    if (end >= text.size())
-        return false;
-
-    std::string_view string = text.substr(position, end + 1 - position);
     if (behindString)
     {
-        strict.pop_back();
-        string.remove_prefix(1);
+        strict.pop_back(); // the quote that closed the string before
     }
     else if (place == Place::ObjectStart || place == Place::ObjectNext)
     {
         beginKey();
+        strict += '"';
     }
     else
     {
         if (!beginValue())
             return false;
         endValue();
+        strict += '"';
     }
-    strict += string;
+    ++position;
+    if (!takeContent())
+        return false;
+    strict += '"';
     behindString = true;
-    position = end + 1;
     return true;
+}
+
+/// Takes the inside of a string and the quote that closes it.
+/// @return false when the string is not closed, or holds an escape that is not whole
+bool Rewriter::takeContent()
+{
+    while (position < text.size())
+    {
+        const char c = text[position];
+        if (c == '"')
+        {
+            ++position;
+            return true;
+        }
+        std::size_t length = 1;
+        if (c == '\\')
+            length = escapeLength(text.substr(position));
+        if (length == 0)
+            return false;
+        if (isControlCharacter(c))
+            appendEscaped(c);
+        else
+            strict += text.substr(position, length);
+        position += length;
+    }
+    return false;
+}
+
+void Rewriter::appendEscaped(char controlCharacter)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(controlCharacter);
+    strict += "\\u00";
+    strict += digits[code / 16];
+    strict += digits[code % 16];
 }
 
 bool Rewriter::takeWord()
@@ -188,7 +232,7 @@ bool Rewriter::takeWord()
     if (!literal.empty())
         strict += literal;
     else if (mayBeOutOfRange(word))
-        strict.append(1, '"').append(word).append(1, '"');
+        strict.append(1, '"').append(decimalText(word)).append(1, '"');
     else
         strict += word;
     endValue();

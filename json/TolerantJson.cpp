@@ -1,5 +1,7 @@
 #include "json/TolerantJson.h"
 
+#include "json/JsonEscape.h"
+#include "json/JsonNumber.h"
 #include "json/StrictJson.h"
 #include "text/Lines.h"
 
@@ -12,7 +14,7 @@
 namespace
 {
 
-/// Numbers stay texts: whoever wants a text gets it as written, whoever wants a number gets exact bits.
+/// Numbers stay texts: whoever wants a number gets the exact bits of a long one too.
 constexpr unsigned parseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
 
 /// Hands on what the parser finds; it goes on for as long as the answer is true.
@@ -59,7 +61,7 @@ public:
 
     bool RawNumber(const char* text, rapidjson::SizeType length, bool)
     {
-        events.text({text, length});
+        events.text(decimalText({text, length}));
         return true;
     }
 
@@ -79,32 +81,20 @@ private:
     JsonEvents& events;
 };
 
-/// True when a "\u" escape of "d" and one of `seconds` begins the text.
-bool beginsWithEscapeOf(std::string_view text, std::string_view seconds)
+/// True when each escape is whole. The parser lets a low surrogate pass that follows no high one, and would make
+/// bytes of it that are no UTF-8.
+/// @param text  strict JSON, where a backslash stands nowhere but in strings
+bool escapesAreWhole(std::string_view text)
 {
-    return text.size() >= 6 && text.starts_with("\\u") && (text[2] == 'd' || text[2] == 'D') &&
-           seconds.find(text[3]) != std::string_view::npos;
-}
-
-/// True when an escaped low surrogate does not follow an escaped high one. The parser notices only the opposite
-/// and would make bytes of it that are no UTF-8.
-bool holdsLoneLowSurrogate(std::string_view text)
-{
-    constexpr std::string_view high = "89abAB";
-    constexpr std::string_view low = "cdefCDEF";
-    constexpr std::size_t escapeLength = 6;
     std::size_t place = text.find('\\');
     while (place != std::string_view::npos)
     {
-        const std::string_view ahead = text.substr(place);
-        if (beginsWithEscapeOf(ahead, low))
-            return true;
-        std::size_t length = 2;
-        if (beginsWithEscapeOf(ahead, high) && beginsWithEscapeOf(ahead.substr(escapeLength), low))
-            length = 2 * escapeLength;
+        const std::size_t length = escapeLength(text.substr(place));
+        if (length == 0)
+            return false;
         place = text.find('\\', place + length);
     }
-    return false;
+    return true;
 }
 
 bool beginsWithBracket(std::string_view text)
@@ -124,7 +114,7 @@ bool readStrictJson(const std::string& text, JsonEvents& events)
     rapidjson::StringStream stream(text.c_str());
     const bool parsed = !reader.Parse<parseFlags>(stream, forwarder).IsError();
     // A zero byte is the end to the parser, but not to us.
-    return parsed && stream.Tell() == text.size() && !holdsLoneLowSurrogate(text);
+    return parsed && stream.Tell() == text.size() && escapesAreWhole(text);
 }
 
 } // namespace

@@ -28,7 +28,7 @@ public:
     /// @param name  UTF-8, valid during the call
     virtual void key(std::string_view name) = 0;
 
-    /// A string, or a number as the file writes it.
+    /// A string, or the decimal text of a number.
     /// @param content  UTF-8, valid during the call
     virtual void text(std::string_view content) = 0;
 

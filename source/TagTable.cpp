@@ -1,14 +1,20 @@
 #include "source/TagTable.h"
 
-#include <algorithm>
-
 TagTable::TagTable() : records(tagCapacity), firstByName(slotCount, freeSlot) {}
 
 void TagTable::clear()
 {
-    std::fill_n(records.begin(), filled, TagRecord{});
-    filled = 0;
-    std::ranges::fill(firstByName, freeSlot);
+    // Names go in the reverse of the order in which they came, so each is still found on its way through the table.
+    // What this costs goes with the number of tags: a file may repeat its list of tags a million times.
+    while (filled > 0)
+    {
+        --filled;
+        TagRecord& record = records[static_cast<std::size_t>(filled)];
+        std::int32_t& slot = firstByName[slotOf(record.name)];
+        if (slot == filled)
+            slot = freeSlot;
+        record = {};
+    }
 }
 
 bool TagTable::append(const TagRecord& record)

@@ -29,6 +29,31 @@ TEST(StrictJson, StringsStayAsTheyAreWritten)
               R"(["a\"b\\","/* no comment */ // none","[,{:"])");
 }
 
+TEST(StrictJson, ControlCharactersInsideStringsAreEscaped)
+{
+    EXPECT_EQ(rewritten("[\"a\tb\x1F\x01\"]"), R"(["a\u0009b\u001F\u0001"])");
+    EXPECT_EQ(rewritten(std::string_view("{\"\0\":1}", 7)), R"({"\u0000":1})");
+    EXPECT_EQ(rewritten("[\"\x7F\"]"), "[\"\x7F\"]");
+    EXPECT_EQ(rewritten("[\"\\\t\"]"), "refused");
+}
+
+TEST(StrictJson, EscapesHaveToBeWholeInEachString)
+{
+    EXPECT_EQ(rewritten(R"(["\u00fc" "\ud83d\ude00"])"), R"(["\u00fc\ud83d\ude00"])");
+    EXPECT_EQ(rewritten(R"(["\u00" "fc"])"), "refused");
+    EXPECT_EQ(rewritten(R"(["\u" "00fc"])"), "refused");
+    EXPECT_EQ(rewritten(R"(["\ud83d" "\ude00"])"), "refused");
+    EXPECT_EQ(rewritten(R"({"\u00" "fc":1})"), "refused");
+    EXPECT_EQ(rewritten(R"(["\x"])"), "refused");
+}
+
+TEST(StrictJson, BlanksAreSpaceAndTab)
+{
+    EXPECT_EQ(rewritten("\t[ 1\t,\t2 ]\t"), "[1,2]");
+    for (const char* text : {"\f[1]", "[\v1]", "[1\f]", "[1]\f", "[\b]", "[\x01]", "[1\f,2]", "[\"a\"\f\"b\"]"})
+        EXPECT_EQ(rewritten(text), "refused") << text;
+}
+
 TEST(StrictJson, CommentsCountAsBlanks)
 {
     EXPECT_EQ(rewritten("/* a */ [ /**/ 1 /* , 2 */ ] // end"), "[1]");
@@ -145,9 +170,10 @@ TEST(StrictJson, WordsThatAreNeitherNumbersNorLiteralsAreRefused)
         EXPECT_EQ(rewritten(text), "refused") << text;
 }
 
-TEST(StrictJson, NumbersOfAnyMagnitudeAreCarriedAsStrings)
+TEST(StrictJson, NumbersOfAnyMagnitudeAreCarriedAsStringsOfTheirDecimalText)
 {
-    EXPECT_EQ(rewritten("[1e999]"), R"(["1e999"])");
+    EXPECT_EQ(rewritten("[1e2]"), R"(["100"])");
+    EXPECT_EQ(rewritten("[1e999]"), R"([""])");
     const std::string digits(1000, '9');
     EXPECT_EQ(rewritten("[" + digits + "]"), "[\"" + digits + "\"]");
     EXPECT_EQ(rewritten("[1e999 \"a\"]"), "refused");

@@ -351,7 +351,8 @@ TEST(TagDatabaseLoader, MasksAreHexadecimal)
 
 TEST(TagDatabaseLoader, MaskWrittenAsNumberIsReadFromItsDecimalText)
 {
-    EXPECT_EQ(masksOf(R"({"mask":16},{"mask":200000},{"mask":1.5})"), (std::vector<std::uint32_t>{0x16, 1}));
+    EXPECT_EQ(masksOf(R"({"mask":16},{"mask":200000},{"mask":1.5},{"mask":1e2},{"mask":2e5},{"mask":"1e2"})"),
+              (std::vector<std::uint32_t>{0x16, 1, 0x100, 0x1e2}));
 }
 
 TEST(TagDatabaseLoader, AbsentMembersOfAGroupAreEmptyAndZero)
@@ -441,10 +442,36 @@ TEST(TagDatabaseLoader, AbsentMembersOfATagAreEmptyAndZero)
     }
 }
 
-TEST(TagDatabaseLoader, NumbersAreTakenAsNames)
+TEST(TagDatabaseLoader, NumbersAreTakenAsTheTextOfTheirValue)
 {
-    EXPECT_EQ(loadTags(R"({"Name":4711,"Description":1.50})").database.tags[0].name.view(), "4711");
-    EXPECT_EQ(loadTags(R"({"Name":4711,"Description":1.50})").database.tags[0].description.view(), "1.50");
+    const Load tags = loadTags(R"({"Name":4711,"Description":1.50},{"Name":1e2,"Description":"1e2"})");
+    const TagTable& table = tags.database.tags;
+    ASSERT_EQ(table.count(), 2);
+    EXPECT_EQ(table[0].name.view(), "4711");
+    EXPECT_EQ(table[0].description.view(), "1.5");
+    EXPECT_EQ(table[1].name.view(), "100");
+    EXPECT_EQ(table[1].description.view(), "1e2");
+}
+
+TEST(TagDatabaseLoader, TabInsideADescriptionIsKept)
+{
+    const Load tags = loadTags("{\"Name\":\"A\",\"Description\":\"one\ttwo\"},{\"Name\":\"B\"}");
+    ASSERT_EQ(tags.database.tags.count(), 2);
+    EXPECT_EQ(tags.database.tags[0].description.view(), "one\ttwo");
+}
+
+TEST(TagDatabaseLoader, NumericTextCountsAsThatNumber)
+{
+    const Load tags = loadTags(R"({"Size":"12.9","Elements":"-3","Attributes":"1e2","Groups":" 5 "},)"
+                               R"({"Size":"12 characters","Elements":"","Attributes":"0x10","Groups":"many"})");
+    const TagTable& table = tags.database.tags;
+    ASSERT_EQ(table.count(), 2);
+    EXPECT_EQ(table[0].size, 12);
+    EXPECT_EQ(table[0].elements, -3);
+    EXPECT_EQ(table[0].attributes, 100);
+    EXPECT_EQ(table[0].groups, 5U);
+    EXPECT_EQ(table[1].size + table[1].elements + table[1].attributes, 0);
+    EXPECT_EQ(table[1].groups, 0U);
 }
 
 TEST(TagDatabaseLoader, LastMemberOfANameCounts)
@@ -511,6 +538,20 @@ TEST(TagDatabaseLoader, MembersMayComeInAnyOrder)
     EXPECT_EQ(nodesOf(mixed.database), (std::vector<std::string>{"A||-1", "B|b|0"}));
     EXPECT_EQ(mixed.database.tags[0].groups, 3U);
     EXPECT_EQ(mixed.database.tags[0].elements, 2);
+}
+
+TEST(TagDatabaseLoader, RootMemberRepeatedAMillionTimesIsReadAtOnce)
+{
+    for (const char* member : {R"("database":[],)", R"("database":[{}],)", R"("structure":[{}],)"})
+    {
+        std::string json = "{";
+        for (int i = 0; i < 1000000; ++i)
+            json += member;
+        const Load last = load(json + R"("structure":[{"lable":"Plant"}],"database":[{"Name":"A"}]})");
+        EXPECT_EQ(last.result, LoadResult::Loaded);
+        ASSERT_EQ(last.database.tags.count(), 1);
+        EXPECT_EQ(last.database.tags.find(InternedText("A")), 0);
+    }
 }
 
 TEST(TagDatabaseLoader, TagsBeyondTheTableAreLeftOut)

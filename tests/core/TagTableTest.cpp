@@ -64,3 +64,16 @@ TEST(TagTable, ClearedTableIsAsNew)
     EXPECT_EQ(table[0].type, TagType::Integer);
     EXPECT_TRUE(table[0].name.empty());
 }
+
+TEST(TagTable, ClearedTableHasForgottenEveryNameAlsoThoseOfSeveralRecords)
+{
+    TagTable table;
+    for (int i = 0; i < tagCapacity; ++i)
+        ASSERT_TRUE(table.append(named(std::to_string(i % 1000 * 7))));
+    table.clear();
+    for (int i = 0; i < 7000; ++i)
+        ASSERT_EQ(table.find(InternedText(std::to_string(i))), std::nullopt) << i;
+    EXPECT_EQ(table.find(InternedText()), 0);
+    table.append(named("7"));
+    EXPECT_EQ(table.find(InternedText("7")), 0);
+}

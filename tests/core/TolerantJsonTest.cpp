@@ -67,13 +67,24 @@ TEST(TolerantJson, PiecesComeInTheOrderOfTheText)
     EXPECT_EQ(eventsOf(R"({"a":[1,"x",true,null,{}],"b":{"c":[]},"a":false})"), "{a=['1''x'--{}]b={c=[]}a=-}");
 }
 
-TEST(TolerantJson, NumbersComeAsTheyAreWritten)
+TEST(TolerantJson, NumbersComeAsTheirDecimalText)
 {
-    EXPECT_EQ(eventsOf("[16,-2.50,0,1e5]"), "['16''-2.50''0''1e5']");
-    EXPECT_EQ(eventsOf("[12345678901234567890123]"), "['12345678901234567890123']");
-    EXPECT_EQ(eventsOf("[1e999,-1E-999]"), "['1e999''-1E-999']");
-    const std::string digits(500, '9');
-    EXPECT_EQ(eventsOf("[" + digits + "]"), "['" + digits + "']");
+    for (const char* strictOrNot : {"", ","})
+    {
+        const auto numbers = [strictOrNot](const std::string& list)
+        { return eventsOf("[" + list + strictOrNot + "]"); };
+        EXPECT_EQ(numbers("16,-2.50,0,1e2,-0"), "['16''-2.5''0''100''0']");
+        EXPECT_EQ(numbers("12345678901234567890123"), "['12345678901234567890123']");
+        const std::string digits(500, '9');
+        EXPECT_EQ(numbers(digits), "['" + digits + "']");
+        EXPECT_EQ(numbers("1e999,7,-1E-999"), "['''7''']");
+    }
+}
+
+TEST(TolerantJson, StringsThatLookLikeNumbersStayAsTheyAre)
+{
+    EXPECT_EQ(eventsOf(R"(["1e2","1.50","-0"])"), "['1e2''1.50''-0']");
+    EXPECT_EQ(eventsOf(R"(["1e2","1.50","-0",])"), "['1e2''1.50''-0']");
 }
 
 TEST(TolerantJson, EscapesAreResolved)
@@ -126,11 +137,25 @@ TEST(TolerantJson, UnknownEscapesAndHalvesOfPairsAreBad)
     }
 }
 
-TEST(TolerantJson, ControlCharactersInsideStringsAreBad)
+TEST(TolerantJson, ControlCharactersInsideStringsAreKept)
 {
-    EXPECT_FALSE(accepted("[\"a\tb\"]"));
-    EXPECT_FALSE(accepted("[\"a\0b\"]"s));
-    EXPECT_TRUE(accepted("[\"a\x7F\"]"));
+    EXPECT_EQ(eventsOf("{\"a\tb\":\"c\x01\x1F\x7F\"}"), "{a\tb='c\x01\x1F\x7F'}");
+    EXPECT_EQ(eventsOf("[\"a\0b\"]"s), "['a\0b']"s);
+    EXPECT_EQ(eventsOf("[\"a\tb\" /**/ \"\\t\fd\",]"), "['a\tb\t\fd']");
+    EXPECT_FALSE(accepted("[\"a\\\tb\"]"));
+}
+
+TEST(TolerantJson, EscapeSplitOverNeighbouringStringsIsBad)
+{
+    EXPECT_FALSE(accepted(R"(["\u00" "fc"])"));
+    EXPECT_FALSE(accepted(R"(["\ud83d" "\ude00"])"));
+}
+
+TEST(TolerantJson, OtherBlanksThanSpaceAndTabAreBad)
+{
+    EXPECT_TRUE(accepted("\t[ 1 ,\r\n2\t]"));
+    for (const char* text : {"\f[1]", "[\v1]", "[1\f]", "[1]\f", "[1,\x1F]", "[1,\xC2\xA0]"})
+        EXPECT_FALSE(accepted(text)) << text;
 }
 
 TEST(TolerantJson, LineCommentTakesInAllFurtherLines)

@@ -1,0 +1,48 @@
+#include "json/JsonEscape.h"
+
+#include <charconv>
+#include <optional>
+
+namespace
+{
+
+constexpr std::size_t unitLength = 6; ///< of "\u" and its four digits
+
+/// The UTF-16 unit of the "\u" escape that the text begins with, or nothing when it begins with none.
+std::optional<unsigned> escapedUnit(std::string_view text)
+{
+    if (text.size() < unitLength || !text.starts_with("\\u"))
+        return std::nullopt;
+    unsigned unit = 0;
+    const char* const end = text.data() + unitLength;
+    const auto [stop, error] = std::from_chars(text.data() + 2, end, unit, 16);
+    if (error != std::errc() || stop != end)
+        return std::nullopt;
+    return unit;
+}
+
+constexpr bool isHighSurrogate(unsigned unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+constexpr bool isLowSurrogate(unsigned unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+} // namespace
+
+std::size_t escapeLength(std::string_view text)
+{
+    constexpr std::string_view plain = "\"\\/bfnrt";
+    if (text.size() >= 2 && plain.find(text[1]) != std::string_view::npos)
+        return 2;
+    const auto unit = escapedUnit(text);
+    if (!unit || isLowSurrogate(*unit))
+        return 0;
+    if (!isHighSurrogate(*unit))
+        return unitLength;
+    const auto second = escapedUnit(text.substr(unitLength));
+    return second && isLowSurrogate(*second) ? 2 * unitLength : 0;
+}
