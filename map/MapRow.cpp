@@ -77,3 +77,14 @@ MapRow fillMapRow(const RegisterEntry& slot)
         fillContinuation(row, slot);
     return row;
 }
+
+std::string mapCellNote(const RegisterEntry& slot, MapColumn column)
+{
+    if (column == MapColumn::Address)
+        return slot.locked ? "locked" : "";
+    if (!slot.used || isHead(slot) || column == MapColumn::Marker)
+        return {};
+    MapRow row;
+    fillHead(row, slot);
+    return cell(row, column).text;
+}

@@ -48,3 +48,8 @@ using MapRow = std::array<MapCell, mapColumnCount>;
 /// What the map grid shows for a slot: an object's head in full, its continuation slots as ":", a free slot as its
 /// bare address; in front "L" for a locked register, else "!!" for one in error.
 MapRow fillMapRow(const RegisterEntry& slot);
+
+/// What a cell has to say that it does not show: "locked" for the address of a locked register, since a free one has no
+/// mark for it; the object's own text where a continuation slot shows ":".
+/// @return empty for every other cell
+std::string mapCellNote(const RegisterEntry& slot, MapColumn column);

@@ -1,6 +1,8 @@
 #include "ui/MainFrameBase.h"
 
 #include "ui/Theme.h"
+#include "ui/grid/CellTooltips.h"
+#include "ui/grid/ColumnWidths.h"
 #include "ui/grid/GridHeader.h"
 #include "ui/grid/RowCellRenderer.h"
 
@@ -110,6 +112,7 @@ wxGrid* MainFrameBase::createGrid(wxWindow* parent, GridColumns columns)
     grid->SetDefaultRowSize(FromDIP(rowHeight));
     grid->SetScrollLineY(FromDIP(rowHeight)); // no row is ever cut at the top
     grid->DisableDragRowSize();
+    grid->DisableDragGridSize(); // a click near the edge of a cell is meant for its row
     grid->SetDefaultCellOverflow(false);
     grid->SetDefaultRenderer(new RowCellRenderer);
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
@@ -122,7 +125,8 @@ wxGrid* MainFrameBase::createGrid(wxWindow* parent, GridColumns columns)
     grid->SetSelectionForeground(theme::colour(theme::contentText));
     dress(*grid, theme::cellText, theme::contentBackground);
     for (std::size_t column = 0; column < columns.size(); ++column)
-        grid->SetColSize(static_cast<int>(column), FromDIP(columns[column].width));
+        grid->SetColSize(static_cast<int>(column), columnWidths::opening(*grid, columns[column]));
+    showCellTooltips(*grid);
     return grid;
 }
 
@@ -242,20 +246,6 @@ void MainFrameBase::connectEvents()
     mapGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &MainFrameBase::OnMapGridRightDown, this);
     mapGrid->Bind(wxEVT_CONTEXT_MENU, &MainFrameBase::OnMapGridContextMenu, this);
     Bind(wxEVT_TIMER, &MainFrameBase::OnTimer, this, timer.GetId());
-
-    const auto fitAfterwards = [this](wxSizeEvent& event)
-    {
-        event.Skip();
-        fitColumns();
-    };
-    sourceGrid->Bind(wxEVT_SIZE, fitAfterwards);
-    mapGrid->Bind(wxEVT_SIZE, fitAfterwards);
-    sourceGrid->Bind(wxEVT_GRID_COL_SIZE,
-                     [this](wxGridSizeEvent& event)
-                     {
-                         event.Skip();
-                         fitColumns();
-                     });
 }
 
 void MainFrameBase::showTable(wxGrid& grid, wxGridTableBase* table)
@@ -271,10 +261,8 @@ void MainFrameBase::showTable(wxGrid& grid, wxGridTableBase* table)
 
 void MainFrameBase::fitColumns()
 {
-    sourceGridHeader->stretchLastColumn();
-    mapGridHeader->stretchLastColumn();
-    sourceGridHeader->followColumns();
-    mapGridHeader->followColumns();
+    sourceGridHeader->settle();
+    mapGridHeader->settle();
 }
 
 void MainFrameBase::OnSourceTreeSelChanged(wxTreeEvent& event)

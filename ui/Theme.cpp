@@ -96,6 +96,11 @@ wxFont semibold(int points)
     return face("Segoe UI Semibold", points, wxFONTWEIGHT_SEMIBOLD);
 }
 
+wxFont columnTitle()
+{
+    return regular(8);
+}
+
 wxFont dialog()
 {
     return face("Arial", 10, wxFONTWEIGHT_NORMAL);

@@ -59,6 +59,9 @@ wxFont regular(int points);
 /// @param points  size in points
 wxFont semibold(int points);
 
+/// The font of the titles above the columns of a grid.
+wxFont columnTitle();
+
 /// "Arial" at 10 points, the font of whatever has none of its own in a dialog, or the desktop's own sans face.
 wxFont dialog();
 

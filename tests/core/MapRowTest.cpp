@@ -204,3 +204,35 @@ TEST(MapRow, TextsAreShownAsTheyStand)
     expectCell(slot, MapColumn::Name, "Behälter.1", MapTone::Sound);
     expectCell(slot, MapColumn::Description, "a, b {c}", MapTone::Plain);
 }
+
+TEST(MapRow, NoteTellsOfALockAtTheAddressOfFreeRegistersToo)
+{
+    for (RegisterEntry slot : {head(), continuation(), freeSlot(100)})
+    {
+        EXPECT_EQ(mapCellNote(slot, MapColumn::Address), "");
+        slot.locked = true;
+        EXPECT_EQ(mapCellNote(slot, MapColumn::Address), "locked");
+        EXPECT_EQ(mapCellNote(slot, MapColumn::Marker), "");
+    }
+}
+
+TEST(MapRow, NoteTellsWhatStandsForTheColonsOfAContinuation)
+{
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Name), "Tank1Level");
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Type), "FLOAT");
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Size), "2");
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Write), "Read");
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Order), "-W-");
+    EXPECT_EQ(mapCellNote(continuation(), MapColumn::Description), "Level of tank 1");
+}
+
+TEST(MapRow, NoteSaysNothingOfHeadsAndOfWhatAnEarlierObjectLeft)
+{
+    RegisterEntry vacated = continuation();
+    vacated.used = false;
+    for (const RegisterEntry& slot : {head(), vacated})
+    {
+        for (const MapColumn column : {MapColumn::Name, MapColumn::Size, MapColumn::Description})
+            EXPECT_EQ(mapCellNote(slot, column), "");
+    }
+}

@@ -2,9 +2,9 @@
 
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
+#include "ui/grid/ColumnWidths.h"
 
 #include <wx/grid.h>
-#include <wx/sizer.h>
 #include <wx/stattext.h>
 
 #include <algorithm>
@@ -12,55 +12,45 @@
 namespace
 {
 
-/// Pixels between two titles.
-constexpr int titleGap = 5;
-
 /// Pixels left free beside the last column, the width of a scroll bar.
 constexpr int scrollBarRoom = 20;
-
-/// Pixels below which a stretched column is of no use.
-constexpr int narrowestColumn = 30;
 
 } // namespace
 
 GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns)
-    : wxPanel(parent), grid(columnsOf), columns(gridColumns)
+    : wxPanel(parent), grid(columnsOf), columns(gridColumns), drag(*this, columnsOf, gridColumns)
 {
     SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
-    auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
-    const int last = lastSeenColumn(columns);
-    for (int column = 0; column <= last; ++column)
+    for (std::size_t column = 0; column < columns.size(); ++column)
     {
-        const GridColumn& titled = columns[static_cast<std::size_t>(column)];
-        if (titled.title.empty())
-        {
-            sizer->AddSpacer(grid.GetColSize(column));
-            continue;
-        }
-        titles.push_back({column, createTitle(titled.title)});
-        sizer->Add(titles.back().text, column == last ? 1 : 0, wxTOP | wxBOTTOM | (column == last ? 0 : wxRIGHT),
-                   FromDIP(titleGap));
+        if (!columns[column].title.empty())
+            titles.push_back({static_cast<int>(column), createTitle(columns[column].title)});
     }
-    SetSizer(sizer);
-    followColumns();
+    SetMinSize(wxSize(-1, titles.front().text->GetBestSize().GetHeight() + 2 * FromDIP(titleGap)));
+    const auto settleAfterwards = [this](wxSizeEvent& event)
+    {
+        event.Skip();
+        settle();
+    };
+    Bind(wxEVT_SIZE, settleAfterwards);
+    grid.Bind(wxEVT_SIZE, settleAfterwards);
 }
 
 wxStaticText* GridHeader::createTitle(std::string_view title)
 {
     auto* const text = new wxStaticText(this, wxID_ANY, toolkitText(title), wxDefaultPosition, wxDefaultSize,
                                         wxALIGN_CENTRE_HORIZONTAL | wxST_NO_AUTORESIZE);
-    text->SetFont(theme::regular(8));
+    text->SetFont(theme::columnTitle());
     text->SetForegroundColour(theme::colour(theme::columnHeaderText));
     text->SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
+    drag.watch(*text);
     return text;
 }
 
-void GridHeader::followColumns()
+void GridHeader::settle()
 {
-    for (const Title& title : titles)
-        title.text->SetMinSize(wxSize(std::max(grid.GetColSize(title.column) - FromDIP(titleGap), 0), -1));
-    titles.back().text->SetMinSize(wxSize(0, -1));
-    Layout();
+    stretchLastColumn();
+    placeTitles();
 }
 
 void GridHeader::stretchLastColumn()
@@ -69,5 +59,35 @@ void GridHeader::stretchLastColumn()
     int width = grid.GetSize().GetWidth() - FromDIP(scrollBarRoom);
     for (int column = 0; column < last; ++column)
         width -= grid.GetColSize(column);
-    grid.SetColSize(last, std::max(width, FromDIP(narrowestColumn)));
+    const int least = columnWidths::needed(grid, columns[static_cast<std::size_t>(last)]);
+    grid.SetColSize(last, std::max(width, least));
+}
+
+void GridHeader::placeTitles()
+{
+    placedLeft = columnsLeft();
+    int left = placedLeft;
+    int column = 0;
+    for (const Title& title : titles)
+    {
+        for (; column < title.column; ++column)
+            left += grid.GetColSize(column);
+        const int width = std::max(grid.GetColSize(column) - FromDIP(titleGap), 0);
+        const bool last = &title == &titles.back();
+        title.text->SetMinSize(wxSize(last ? 0 : width, -1));
+        title.text->SetSize(left, FromDIP(titleGap), last ? std::max(GetClientSize().GetWidth() - left, width) : width,
+                            title.text->GetBestSize().GetHeight());
+    }
+}
+
+void GridHeader::OnInternalIdle()
+{
+    wxPanel::OnInternalIdle();
+    if (placedLeft != columnsLeft())
+        placeTitles();
+}
+
+int GridHeader::columnsLeft() const
+{
+    return grid.CalcScrolledPosition(wxPoint(0, 0)).x;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/grid/ColumnDrag.h"
 #include "ui/grid/GridColumns.h"
 
 #include <wx/panel.h>
@@ -13,17 +14,20 @@ class wxStaticText;
 class GridHeader : public wxPanel
 {
 public:
+    /// Pixels between two titles.
+    static constexpr int titleGap = 5;
+
     /// @param parent       window that holds header and grid
     /// @param columnsOf    the grid underneath
     /// @param gridColumns  its columns; they outlive the header
     GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns);
 
-    /// Gives every title the width of the column beneath it; the last one stretches.
-    void followColumns();
-
     /// Gives the last seen column what the columns before it leave of the grid's width, less 20 pixels for the scroll
-    /// bar; it never gets narrower than its minimum.
-    void stretchLastColumn();
+    /// bar, and puts every title over its column. It does so of its own accord when the grid changes its size.
+    void settle();
+
+    /// Follows the grid when it is scrolled sideways, which it tells nobody.
+    void OnInternalIdle() override;
 
 private:
     struct Title
@@ -33,8 +37,15 @@ private:
     };
 
     wxStaticText* createTitle(std::string_view title);
+    void stretchLastColumn();
+    void placeTitles();
+
+    /// Pixels from the left end of this row to that of the first column.
+    int columnsLeft() const;
 
     wxGrid& grid;
     GridColumns columns;
+    ColumnDrag drag;
     std::vector<Title> titles;
+    int placedLeft = 0; ///< what `columnsLeft` was when the titles were placed
 };

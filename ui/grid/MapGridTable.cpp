@@ -19,7 +19,11 @@ std::optional<int> MapGridTable::rowOf(int address) const
 
 GridCell MapGridTable::cellOf(int address, int column) const
 {
-    const RegisterEntry& slot = map.currentSlots()[static_cast<std::size_t>(address)];
-    const MapCell cell = fillMapRow(slot)[static_cast<std::size_t>(column)];
+    const MapCell cell = fillMapRow(slotAt(address))[static_cast<std::size_t>(column)];
     return {toolkitText(cell.text), theme::cellColour(cell.tone)};
+}
+
+wxString MapGridTable::noteOfKey(int address, int column) const
+{
+    return toolkitText(mapCellNote(slotAt(address), static_cast<MapColumn>(column)));
 }

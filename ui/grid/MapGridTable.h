@@ -21,7 +21,10 @@ public:
 
 protected:
     GridCell cellOf(int address, int column) const override;
+    wxString noteOfKey(int address, int column) const override;
 
 private:
+    const RegisterEntry& slotAt(int address) const { return map.currentSlots()[static_cast<std::size_t>(address)]; }
+
     const RegisterMap& map;
 };

@@ -1,6 +1,28 @@
 #include "ui/grid/RowCellRenderer.h"
 
-#include <wx/dc.h>
+#include "ui/grid/CellText.h"
+
+#include <wx/dcclient.h>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Pixels by which a text may be wider than its characters one by one.
+constexpr int tolerance = 4;
+
+/// As much of a text as has room together with an ellipsis.
+wxString shortened(const wxDC& dc, const wxString& text, int room)
+{
+    wxArrayInt ends; // for each character, pixels from the start of the text to its end
+    dc.GetPartialTextExtents(text, ends);
+    const int left = room - dc.GetTextExtent(cellText::ellipsis()).GetWidth();
+    const auto kept = std::upper_bound(ends.begin(), ends.end(), left) - ends.begin();
+    return text.Left(static_cast<std::size_t>(kept)) + cellText::ellipsis();
+}
+
+} // namespace
 
 void RowCellRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect, int row, int col,
                            bool isSelected)
@@ -9,30 +31,57 @@ void RowCellRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const w
     dc.SetBrush(isSelected ? grid.GetSelectionBackground() : attr.GetBackgroundColour());
     dc.DrawRectangle(rect);
 
-    const wxString text = grid.GetCellValue(row, col);
+    const wxString text = cellText::forCell(grid.GetCellValue(row, col));
     if (text.empty())
         return;
     dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
     dc.SetTextForeground(isSelected ? grid.GetSelectionForeground() : attr.GetTextColour());
     dc.SetFont(attr.GetFont());
     int horizontal = 0;
-    int vertical = 0;
-    attr.GetAlignment(&horizontal, &vertical);
-    const wxRect inner = wxRect(rect).Deflate(1);
-    if (vertical == wxALIGN_CENTRE && text.IsAscii() && text.find('\n') == wxString::npos)
-        drawLine(dc, text, inner, horizontal);
-    else
-        grid.DrawTextRectangle(dc, text, inner, horizontal, vertical);
+    attr.GetAlignment(&horizontal, nullptr);
+    drawLine(dc, text, wxRect(rect).Deflate(margin, 1), horizontal);
 }
 
 void RowCellRenderer::drawLine(wxDC& dc, const wxString& text, const wxRect& rect, int alignment)
+{
+    const bool centred = alignment == wxALIGN_CENTRE;
+    wxString shown = text;
+    wxSize size(0, plainHeight(dc));
+    if (centred || !surelyFits(dc, text, rect.width))
+    {
+        size = dc.GetTextExtent(text);
+        if (size.GetWidth() > rect.width)
+        {
+            shown = shortened(dc, text, rect.width);
+            size = dc.GetTextExtent(shown);
+        }
+    }
+    const int x = centred ? (rect.width - size.GetWidth()) / 2 : 0;
+    const wxDCClipper clip(dc, rect);
+    dc.DrawText(shown, rect.x + x, rect.y + (rect.height - size.GetHeight()) / 2);
+}
+
+bool RowCellRenderer::surelyFits(wxDC& dc, const wxString& text, int room)
+{
+    return text.IsAscii() && widths.about(text, dc) + tolerance <= room;
+}
+
+int RowCellRenderer::plainHeight(wxDC& dc)
 {
     if (!measuredFont.IsSameAs(dc.GetFont()))
     {
         measuredFont = dc.GetFont();
         lineHeight = dc.GetTextExtent("x").GetHeight();
     }
-    const int x = alignment == wxALIGN_CENTRE ? (rect.width - dc.GetTextExtent(text).GetWidth()) / 2 : 1;
-    const wxDCClipper clip(dc, rect);
-    dc.DrawText(text, rect.x + x, rect.y + (rect.height - lineHeight) / 2);
+    return lineHeight;
+}
+
+bool showsWholeText(wxGrid& grid, int row, int column)
+{
+    const wxString text = grid.GetCellValue(row, column);
+    const wxString shown = cellText::forCell(text);
+    wxClientDC dc(grid.GetGridWindow());
+    dc.SetFont(grid.GetCellFont(row, column));
+    const int room = grid.GetColSize(column) - 2 * RowCellRenderer::margin;
+    return shown == text && dc.GetTextExtent(text).GetWidth() <= room;
 }

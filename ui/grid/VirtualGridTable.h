@@ -25,6 +25,11 @@ public:
     /// Shows other rows: the selection goes, the scroll position stays as far as the new rows reach.
     void show(std::vector<int> rowKeys);
 
+    /// What a cell has to say beside its text; empty for most.
+    /// @param row     a row of the grid
+    /// @param column  a column of the grid
+    wxString noteOf(int row, int column) const { return noteOfKey(keyOf(row), column); }
+
     int GetNumberRows() override { return static_cast<int>(keys.size()); }
     int GetNumberCols() override { return static_cast<int>(columns.size()); }
     wxString GetValue(int row, int column) override { return cellOf(keyOf(row), column).text; }
@@ -36,6 +41,9 @@ protected:
     /// What a cell of the row with that key shows.
     /// @param column  a column of the grid
     virtual GridCell cellOf(int key, int column) const = 0;
+
+    /// What a cell of the row with that key has to say beside its text.
+    virtual wxString noteOfKey(int /*key*/, int /*column*/) const { return {}; }
 
     /// @param row  a row of the grid
     int keyOf(int row) const { return keys[static_cast<std::size_t>(row)]; }

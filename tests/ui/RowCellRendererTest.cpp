@@ -1,0 +1,113 @@
+// What is drawn for the text of a cell: pictures of one cell compared with pictures of another.
+
+#include "ui/grid/RowCellRenderer.h"
+
+#include "tests/ui/UiTest.h"
+#include "ui/Theme.h"
+#include "ui/ToolkitText.h"
+
+#include <gtest/gtest.h>
+#include <wx/dcmemory.h>
+#include <wx/frame.h>
+#include <wx/grid.h>
+#include <wx/image.h>
+
+#include <cstring>
+
+namespace
+{
+
+constexpr int cellWidth = 120;
+constexpr int cellHeight = 25;
+
+/// A grid of one cell.
+class OneCell : public wxFrame
+{
+public:
+    OneCell() : wxFrame(nullptr, wxID_ANY, "cell"), grid(new wxGrid(this, wxID_ANY))
+    {
+        grid->CreateGrid(1, 1);
+        grid->SetColSize(0, cellWidth);
+        grid->SetDefaultCellFont(theme::regular(10));
+    }
+
+    /// What the renderer draws for a text.
+    wxImage pictureOf(const wxString& text)
+    {
+        grid->SetCellValue(0, 0, text);
+        const wxGridCellAttrPtr look(
+            new wxGridCellAttr(*wxWHITE, *wxBLACK, theme::regular(10), alignment, wxALIGN_CENTRE));
+        wxBitmap bitmap(cellWidth, cellHeight);
+        wxMemoryDC dc(bitmap);
+        renderer.Draw(*grid, *look, dc, wxRect(0, 0, cellWidth, cellHeight), 0, 0, false);
+        dc.SelectObject(wxNullBitmap);
+        return bitmap.ConvertToImage();
+    }
+
+    /// The longest beginning of a text that has room together with an ellipsis.
+    static wxString shortened(const wxString& text)
+    {
+        wxBitmap bitmap(1, 1);
+        wxMemoryDC dc(bitmap);
+        dc.SetFont(theme::regular(10));
+        std::size_t length = text.length();
+        while (dc.GetTextExtent(text.Left(length) + L"\u2026").GetWidth() > cellWidth - 2 * RowCellRenderer::margin)
+            --length;
+        return text.Left(length) + L"\u2026";
+    }
+
+    int alignment = wxALIGN_LEFT;
+
+private:
+    wxGrid* grid;
+    RowCellRenderer renderer;
+};
+
+bool samePicture(const wxImage& one, const wxImage& other)
+{
+    return std::memcmp(one.GetData(), other.GetData(), cellWidth * cellHeight * 3) == 0;
+}
+
+} // namespace
+
+TEST(RowCellRenderer, TextThatHasRoomIsDrawnWhole)
+{
+    OneCell& cell = *new OneCell;
+    EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf("")));
+    EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf("PUMP_2")));
+    EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf(L"PUMP\u2026")));
+}
+
+TEST(RowCellRenderer, TextThatHasNoRoomEndsInAnEllipsis)
+{
+    OneCell& cell = *new OneCell;
+    for (const int alignment : {int(wxALIGN_LEFT), int(wxALIGN_CENTRE)})
+    {
+        cell.alignment = alignment;
+        for (const wxString& text : {wxString("PUMP_STATION_NORTH_SPEED"), toolkitText("Drehzahl des Förderers Süd")})
+        {
+            const wxString shown = OneCell::shortened(text);
+            ASSERT_LT(shown.length(), text.length());
+            EXPECT_TRUE(samePicture(cell.pictureOf(text), cell.pictureOf(shown))) << text;
+        }
+    }
+}
+
+TEST(RowCellRenderer, TextOfSeveralLinesShowsTheFirstAndAnEllipsis)
+{
+    OneCell& cell = *new OneCell;
+    const wxImage expected = cell.pictureOf(L"first\u2026");
+    for (const wxString& text :
+         {wxString("first\nsecond"), wxString("first\r\nsecond"), wxString(L"first\u2028second")})
+        EXPECT_TRUE(samePicture(cell.pictureOf(text), expected));
+}
+
+TEST(RowCellRenderer, TextOfAnyLengthIsDrawnLikeItsBeginning)
+{
+    OneCell& cell = *new OneCell;
+    const wxString most(wxUniChar('n'), 1000);
+    const wxString endless(wxUniChar('n'), 10'000'000);
+    EXPECT_TRUE(samePicture(cell.pictureOf(endless), cell.pictureOf(most)));
+    const wxString breaks(wxUniChar('\n'), 100'000);
+    EXPECT_TRUE(samePicture(cell.pictureOf("first" + breaks), cell.pictureOf(L"first\u2026")));
+}
