@@ -1,10 +1,10 @@
 #include "app/Installation.h"
 
-#include <wx/fileconf.h>
-#include <wx/filename.h>
+#include "files/KeyFile.h"
+#include "ui/Paths.h"
+
 #include <wx/tokenzr.h>
 #include <wx/utils.h>
-#include <wx/wfstream.h>
 
 namespace
 {
@@ -32,12 +32,10 @@ std::optional<wxString> findInstallation()
     for (const wxString& folder : configurationFolders())
     {
         const wxString path = folder + "/BELTHORNE LTD/Varnok Software Suite.conf";
-        if (!wxFileName::IsFileReadable(path))
-            continue;
-        wxFileInputStream stream(path);
-        wxFileConfig keys(stream);
-        keys.SetExpandEnvVars(false);
-        return keys.Read("Path", wxString());
+        // Not wxFileConfig: it takes backslashes and quotes for its own signs, and tells the user about what it
+        // does not understand.
+        if (const auto suitePath = readKeyFileEntry(toPath(path), "Path"))
+            return wxString(suitePath->c_str(), wxConvFile);
     }
     return std::nullopt;
 }
