@@ -1,17 +1,8 @@
 #include "files/SafeWrite.h"
 
-#include <gtest/gtest.h>
+#include "FileSizeLimit.h"
+#include "SafeWriteFixture.h"
 
-#include <cerrno>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <fcntl.h>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
-#include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,89 +11,8 @@ namespace fs = std::filesystem;
 namespace
 {
 
-bool movesAreRefused = false;
-
-} // namespace
-
-/// Stands in for the system's call, so that a move can be refused as a mount point or a sticky folder refuses it.
-extern "C" int rename(const char* from, const char* to) noexcept
+class SafeWrite : public SafeWriteFixture
 {
-    if (movesAreRefused)
-    {
-        errno = EPERM;
-        return -1;
-    }
-    return renameat(AT_FDCWD, from, AT_FDCWD, to);
-}
-
-namespace
-{
-
-/// Works in a folder of its own and checks at the end that nothing was left behind there.
-class SafeWrite : public testing::Test
-{
-protected:
-    SafeWrite()
-    {
-        std::string name = (fs::temp_directory_path() / "safe-write-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        folder = name;
-        fs::permissions(folder, fs::perms::all);
-    }
-
-    ~SafeWrite() override
-    {
-        movesAreRefused = false;
-        fs::permissions(folder, fs::perms::all);
-        for (const auto& entry : fs::recursive_directory_iterator(folder))
-            EXPECT_FALSE(entry.path().filename().string().starts_with(".saving")) << entry.path();
-        fs::remove_all(folder);
-    }
-
-    fs::path fileHolding(const char* name, std::string_view bytes) const
-    {
-        fs::path path = folder / name;
-        std::ofstream(path, std::ios::binary) << bytes;
-        return path;
-    }
-
-    static std::string contents(const fs::path& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    static mode_t mode(const fs::path& path)
-    {
-        struct stat state = {};
-        return stat(path.c_str(), &state) == 0 ? state.st_mode & 07777U : 0;
-    }
-
-    fs::path folder;
-};
-
-/// Lets no file grow past a size, as a full disk does.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes) : oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &oldLimit);
-        const rlimit limit{bytes, oldLimit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &oldLimit);
-        std::signal(SIGXFSZ, oldHandler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    void (*oldHandler)(int);
-    rlimit oldLimit{};
 };
 
 class WorkingDirectory
@@ -116,15 +26,6 @@ public:
 private:
     fs::path old;
 };
-
-/// Writes as somebody whom permissions bind, and ends the process with 0 when that succeeded.
-[[noreturn]] void writeWithoutPrivileges(const fs::path& path, std::string_view bytes)
-{
-    constexpr uid_t nobody = 65534;
-    if (geteuid() == 0 && setuid(nobody) != 0)
-        _exit(2);
-    _exit(writeFileSafely(path, bytes) ? 0 : 1);
-}
 
 } // namespace
 
@@ -145,7 +46,7 @@ TEST_F(SafeWrite, NewFileHasThePermissionsTheUserGivesNewFiles)
 
 TEST_F(SafeWrite, OldContentsAreReplacedWhole)
 {
-    const fs::path path = fileHolding("map.csv", "a much longer text than the new one");
+    const fs::path path = folder.write("map.csv", "a much longer text than the new one");
     EXPECT_TRUE(writeFileSafely(path, "short"));
     EXPECT_EQ(contents(path), "short");
     EXPECT_TRUE(writeFileSafely(path, ""));
@@ -163,7 +64,7 @@ TEST_F(SafeWrite, LargeContentsArriveWhole)
 
 TEST_F(SafeWrite, ReaderOfTheOldFileNeverSeesAMixture)
 {
-    const fs::path path = fileHolding("map.csv", "old text");
+    const fs::path path = folder.write("map.csv", "old text");
     std::ifstream reader(path);
     EXPECT_TRUE(writeFileSafely(path, "new"));
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), "old text");
@@ -171,7 +72,7 @@ TEST_F(SafeWrite, ReaderOfTheOldFileNeverSeesAMixture)
 
 TEST_F(SafeWrite, PermissionsOfTheOldFileAreKept)
 {
-    const fs::path path = fileHolding("map.csv", "old");
+    const fs::path path = folder.write("map.csv", "old");
     for (const mode_t wanted : {0600U, 0640U, 0666U, 0755U})
     {
         ASSERT_EQ(chmod(path.c_str(), wanted), 0);
@@ -183,7 +84,7 @@ TEST_F(SafeWrite, PermissionsOfTheOldFileAreKept)
 TEST_F(SafeWrite, SymbolicLinkStaysALinkToTheWrittenFile)
 {
     fs::create_directory(folder / "elsewhere");
-    const fs::path file = fileHolding("elsewhere/map.csv", "old");
+    const fs::path file = folder.write("elsewhere/map.csv", "old");
     fs::create_symlink("elsewhere/map.csv", folder / "link");
     EXPECT_TRUE(writeFileSafely(folder / "link", "new"));
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
@@ -195,7 +96,7 @@ TEST_F(SafeWrite, ChainOfLinksIsFollowedToItsEnd)
 {
     fs::create_directory(folder / "a");
     fs::create_directory(folder / "b");
-    const fs::path file = fileHolding("map.csv", "old");
+    const fs::path file = folder.write("map.csv", "old");
     fs::create_symlink("../map.csv", folder / "b" / "second");
     fs::create_symlink(folder / "b" / "second", folder / "a" / "first");
     EXPECT_TRUE(writeFileSafely(folder / "a" / "first", "new"));
@@ -225,7 +126,7 @@ TEST_F(SafeWrite, LinksThatLeadNowhereAreRefused)
 
 TEST_F(SafeWrite, NameWithoutFolderIsTakenFromTheWorkingDirectory)
 {
-    const WorkingDirectory inside(folder);
+    const WorkingDirectory inside(folder.path());
     EXPECT_TRUE(writeFileSafely("map.csv", "one"));
     EXPECT_TRUE(writeFileSafely("map.csv", "two"));
     EXPECT_EQ(contents(folder / "map.csv"), "two");
@@ -247,9 +148,9 @@ TEST_F(SafeWrite, MissingFolderIsRefused)
 
 TEST_F(SafeWrite, EmptyPathIsRefused)
 {
-    const WorkingDirectory inside(folder);
+    const WorkingDirectory inside(folder.path());
     EXPECT_FALSE(writeFileSafely("", "new"));
-    EXPECT_TRUE(fs::is_empty(folder));
+    EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST_F(SafeWrite, FolderIsRefusedAndStays)
@@ -267,52 +168,9 @@ TEST_F(SafeWrite, PipesAreRefusedAndStay)
     EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
-TEST_F(SafeWrite, RefusedMoveRewritesTheFileInPlace)
-{
-    const fs::path path = fileHolding("map.csv", "old text");
-    fs::create_hard_link(path, folder / "same");
-    movesAreRefused = true;
-    EXPECT_TRUE(writeFileSafely(path, "new"));
-    EXPECT_EQ(contents(folder / "same"), "new");
-    EXPECT_TRUE(writeFileSafely(path, "a longer new text"));
-    EXPECT_EQ(contents(folder / "same"), "a longer new text");
-}
-
-TEST_F(SafeWrite, RefusedMoveOfANewFileLeavesNothing)
-{
-    movesAreRefused = true;
-    EXPECT_FALSE(writeFileSafely(folder / "map.csv", "new"));
-    EXPECT_TRUE(fs::is_empty(folder));
-}
-
-TEST_F(SafeWrite, FolderWithoutRoomForAFreshNameHasItsFileRewrittenInPlace)
-{
-    constexpr std::size_t longestPath = 4095;
-    const std::string fileName = "/m";
-    std::string deep = folder.string();
-    while (deep.size() + fileName.size() < longestPath)
-        deep += '/' + std::string(std::min<std::size_t>(200, longestPath - fileName.size() - deep.size() - 1), 'd');
-    fs::create_directories(deep);
-    const fs::path path = deep + fileName;
-    ASSERT_EQ(path.string().size(), longestPath);
-    std::ofstream(path) << "old";
-    fs::create_hard_link(path, folder / "same");
-    EXPECT_TRUE(writeFileSafely(path, "new"));
-    EXPECT_EQ(contents(folder / "same"), "new");
-}
-
-TEST_F(SafeWrite, ReadOnlyFolderHasItsFileRewrittenInPlace)
-{
-    const fs::path path = fileHolding("map.csv", "old");
-    fs::permissions(path, fs::perms(0666));
-    fs::permissions(folder, fs::perms(0555));
-    EXPECT_EXIT(writeWithoutPrivileges(path, "new"), testing::ExitedWithCode(0), "");
-    EXPECT_EQ(contents(path), "new");
-}
-
 TEST_F(SafeWrite, WriteProtectedFileIsRefusedThoughItsFolderIsNot)
 {
-    const fs::path path = fileHolding("map.csv", "old");
+    const fs::path path = folder.write("map.csv", "old");
     fs::permissions(path, fs::perms(0444));
     EXPECT_EXIT(writeWithoutPrivileges(path, "new"), testing::ExitedWithCode(1), "");
     EXPECT_EQ(contents(path), "old");
@@ -320,7 +178,7 @@ TEST_F(SafeWrite, WriteProtectedFileIsRefusedThoughItsFolderIsNot)
 
 TEST_F(SafeWrite, FullDiskLeavesTheOldFileUntouched)
 {
-    const fs::path path = fileHolding("map.csv", "old text");
+    const fs::path path = folder.write("map.csv", "old text");
     {
         const FileSizeLimit full(1000);
         EXPECT_FALSE(writeFileSafely(path, std::string(5000, 'x')));
@@ -328,13 +186,4 @@ TEST_F(SafeWrite, FullDiskLeavesTheOldFileUntouched)
     }
     EXPECT_EQ(contents(path), "old text");
     EXPECT_FALSE(fs::exists(folder / "new.csv"));
-}
-
-TEST_F(SafeWrite, DiskWithoutRoomForRewritingInPlaceLeavesTheOldFileUntouched)
-{
-    const fs::path path = fileHolding("map.csv", "old text");
-    movesAreRefused = true;
-    const FileSizeLimit full(1000);
-    EXPECT_FALSE(writeFileSafely(path, std::string(5000, 'x')));
-    EXPECT_EQ(contents(path), "old text");
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "files/posix/FileSystemCalls.h"
+
+#include <filesystem>
+#include <string_view>
+
+/// How putting a fresh file in the old one's place ended.
+enum class Exchange
+{
+    Done,
+    Refused, ///< the folder does not allow it, or the fresh file cannot be made like the old one
+    Failed   ///< the bytes did not get to the disk
+};
+
+/// Writes `bytes` into a fresh file beside `target`, flushes it to the disk and lets it take the name in one step.
+/// @param target  no symbolic link
+/// @param old     what the file to be replaced is like; null when there is none
+/// @return anything but Done: the target is as it was and no other file was left
+Exchange exchangeFile(FileSystemCalls& calls, const std::filesystem::path& target, const struct stat* old,
+                      std::string_view bytes);

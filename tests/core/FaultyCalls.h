@@ -1,0 +1,104 @@
+#pragma once
+
+#include "files/posix/FileSystemCalls.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+/// Calls to the system that do what they are asked, except those that a test wants to fail, and that note what was
+/// done.
+class FaultyCalls : public FileSystemCalls
+{
+public:
+    /// The call with this number, counted from 1, fails once with `error`; 0 lets all succeed.
+    std::size_t failingCall = 0;
+    int error = EIO;
+
+    /// Calls that fail always, with their error.
+    std::map<std::string, int> refused;
+
+    /// No single call writes more bytes than this.
+    std::size_t longestWrite = std::numeric_limits<std::size_t>::max();
+
+    /// The names of all calls in their order. Some tell more: "open fresh" makes a file, "fsync file" and
+    /// "fsync folder" tell what is flushed.
+    std::vector<std::string> made;
+
+    int open(const char* path, int flags, mode_t mode) override
+    {
+        return fails((flags & O_CREAT) != 0 ? "open fresh" : "open") ? -1 : FileSystemCalls::open(path, flags, mode);
+    }
+    int close(int descriptor) override
+    {
+        const bool failing = fails("close"); // the system's own leaves the file closed even then
+        const int result = FileSystemCalls::close(descriptor);
+        return failing ? -1 : result;
+    }
+    int fstat(int descriptor, struct stat* state) override
+    {
+        return fails("fstat") ? -1 : FileSystemCalls::fstat(descriptor, state);
+    }
+    ssize_t readlink(const char* path, char* target, std::size_t size) override
+    {
+        return fails("readlink") ? -1 : FileSystemCalls::readlink(path, target, size);
+    }
+    ssize_t pread(int descriptor, void* bytes, std::size_t size, off_t offset) override
+    {
+        return fails("pread") ? -1 : FileSystemCalls::pread(descriptor, bytes, size, offset);
+    }
+    ssize_t pwrite(int descriptor, const void* bytes, std::size_t size, off_t offset) override
+    {
+        return fails("pwrite") ? -1 : FileSystemCalls::pwrite(descriptor, bytes, std::min(size, longestWrite), offset);
+    }
+    int fsync(int descriptor) override
+    {
+        return fails(isFolder(descriptor) ? "fsync folder" : "fsync file") ? -1 : 0; // without waiting for the disk
+    }
+    int ftruncate(int descriptor, off_t size) override
+    {
+        return fails("ftruncate") ? -1 : FileSystemCalls::ftruncate(descriptor, size);
+    }
+    int posixFallocate(int descriptor, off_t offset, off_t size) override
+    {
+        return fails("posixFallocate") ? errno : FileSystemCalls::posixFallocate(descriptor, offset, size);
+    }
+    int fchown(int descriptor, uid_t owner, gid_t group) override
+    {
+        return fails("fchown") ? -1 : FileSystemCalls::fchown(descriptor, owner, group);
+    }
+    int fchmod(int descriptor, mode_t mode) override
+    {
+        return fails("fchmod") ? -1 : FileSystemCalls::fchmod(descriptor, mode);
+    }
+    int rename(const char* from, const char* to) override
+    {
+        return fails("rename") ? -1 : FileSystemCalls::rename(from, to);
+    }
+    int unlink(const char* path) override { return fails("unlink") ? -1 : FileSystemCalls::unlink(path); }
+
+private:
+    bool fails(const char* call)
+    {
+        made.emplace_back(call);
+        const auto always = refused.find(call);
+        if (made.size() == failingCall)
+            errno = error;
+        else if (always != refused.end())
+            errno = always->second;
+        else
+            return false;
+        return true;
+    }
+
+    static bool isFolder(int descriptor)
+    {
+        struct stat state = {};
+        return ::fstat(descriptor, &state) == 0 && S_ISDIR(state.st_mode);
+    }
+};
