@@ -1,6 +1,8 @@
 #include "app/MainApp.h"
 
+#include "app/EndingSignals.h"
 #include "app/Installation.h"
+#include "files/StateFolder.h"
 #include "ui/Desktop.h"
 #include "ui/MainFrame.h"
 #include "ui/MessageBox.h"
@@ -12,6 +14,18 @@
 #include <cstdlib>
 
 wxIMPLEMENT_APP(MainApp);
+
+namespace
+{
+
+/// @return empty when the system has no place for it
+std::filesystem::path rescueFolder()
+{
+    const std::filesystem::path state = stateFolder();
+    return state.empty() ? state : state / "rescue";
+}
+
+} // namespace
 
 bool MainApp::OnInit()
 {
@@ -29,6 +43,8 @@ bool MainApp::OnInit()
     }
     document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);
     openDocument(*document);
+    rescue.emplace(*document, rescueFolder());
+    callBeforeEnding([this] { rescue->finish(); });
 
     auto* const frame = new MainFrame(*document, *suitePath);
     frame->SetTitle("Modbus Map Editor");
@@ -43,6 +59,13 @@ int MainApp::OnRun()
     // The user has been told why; whatever started the program is not to take that for a crash, as it would take an
     // OnInit that fails (toolkit 3.2 then ends with -1).
     return document ? wxApp::OnRun() : EXIT_SUCCESS;
+}
+
+int MainApp::OnExit()
+{
+    if (rescue)
+        rescue->finish();
+    return wxApp::OnExit();
 }
 
 void MainApp::OnInitCmdLine(wxCmdLineParser& parser)

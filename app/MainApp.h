@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "map/Document.h"
+#include "ui/RescueKeeper.h"
 
 #include <wx/app.h>
 
@@ -13,10 +14,12 @@ class MainApp : public wxApp
 public:
     bool OnInit() override;
     int OnRun() override;
+    int OnExit() override;
     void OnInitCmdLine(wxCmdLineParser& parser) override;
     bool OnCmdLineParsed(wxCmdLineParser& parser) override;
 
 private:
     StartupValues startupValues;
     std::optional<Document> document; ///< the window shows it, and is gone before the application is
+    std::optional<RescueKeeper> rescue;
 };

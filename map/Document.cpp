@@ -30,7 +30,8 @@ void Document::validate()
     validateMap(map, database.tags);
 }
 
-bool Document::saveDefinition() const
+bool Document::saveDefinition()
 {
-    return saveDefinitionFile(definitionPath, map);
+    settled = saveDefinitionFile(definitionPath, map);
+    return settled;
 }

@@ -31,8 +31,14 @@ public:
     void validate();
 
     /// Writes the definition file.
-    /// @return false when it could not be written; the file is then what it was
-    bool saveDefinition() const;
+    /// @return false when it could not be written; the file is then what it was, and the changes are still unsaved
+    bool saveDefinition();
+
+    /// Gives up the changes: the user was asked and does not want them.
+    void discardChanges() { settled = true; }
+
+    /// True while the map holds changes that have neither been written nor been given up.
+    bool hasUnsavedChanges() const { return !settled && map.isModified(); }
 
     RegisterMap map;
     TagDatabase database;
@@ -41,4 +47,5 @@ public:
 
 private:
     std::filesystem::path databasePath;
+    bool settled = false;
 };

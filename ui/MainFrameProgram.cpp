@@ -37,7 +37,9 @@ void MainFrame::exitAndSave()
         // Esc and the box's close button are no answer to a question about a day's work: back to the editor.
         if (answer != wxYES && answer != wxNO)
             return;
-        if (answer == wxYES && !saveDefinition())
+        if (answer == wxNO)
+            document.discardChanges();
+        else if (!saveDefinition())
             return;
     }
     Close(true);

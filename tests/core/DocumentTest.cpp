@@ -55,14 +55,32 @@ TEST(Document, ChangeMadeBeforeAMissingDefinitionIsReadIsNothingToSave)
     EXPECT_FALSE(document.map.isModified());
 }
 
-TEST(Document, SavesToItsDefinitionFile)
+TEST(Document, SavesToItsDefinitionFileAndHasNoUnsavedChangesThen)
 {
     const TempFolder folder;
     Document document("", folder / "plant.csv", 0);
+    EXPECT_FALSE(document.hasUnsavedChanges());
     document.map.placeObject(RegisterSpace::Input, 4, freeSlot(4), 1);
+    EXPECT_TRUE(document.hasUnsavedChanges());
     EXPECT_TRUE(document.saveDefinition());
     EXPECT_TRUE(std::filesystem::exists(folder / "plant.csv"));
+    EXPECT_FALSE(document.hasUnsavedChanges());
+}
 
-    document.definitionPath = folder / "none" / "plant.csv";
+TEST(Document, KeepsItsUnsavedChangesWhenTheFileCannotBeWritten)
+{
+    const TempFolder folder;
+    Document document("", folder / "none" / "plant.csv", 0);
+    document.map.placeObject(RegisterSpace::Input, 4, freeSlot(4), 1);
     EXPECT_FALSE(document.saveDefinition());
+    EXPECT_TRUE(document.hasUnsavedChanges());
+}
+
+TEST(Document, HasNoUnsavedChangesOnceTheyAreGivenUp)
+{
+    Document document("", "", 0);
+    document.map.placeObject(RegisterSpace::Input, 4, freeSlot(4), 1);
+    document.discardChanges();
+    EXPECT_FALSE(document.hasUnsavedChanges());
+    EXPECT_TRUE(document.map.isModified());
 }

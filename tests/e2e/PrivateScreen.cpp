@@ -233,6 +233,19 @@ bool PrivateScreen::showsTitle(const std::string& title) const
                        [&](Window window) { return titleOf(server->get(), window) == title; });
 }
 
+bool PrivateScreen::disconnectOwnerOf(const std::string& title)
+{
+    for (const Window window : windowsIn(server->get(), clientList))
+    {
+        if (titleOf(server->get(), window) != title)
+            continue;
+        XKillClient(server->get(), window);
+        XSync(server->get(), False);
+        return true;
+    }
+    return false;
+}
+
 bool PrivateScreen::requestClose(const std::string& title)
 {
     for (const Window window : windowsIn(server->get(), clientList))

@@ -72,6 +72,10 @@ public:
     /// Whether a window with that title is on the screen.
     bool showsTitle(const std::string& title) const;
 
+    /// Ends the connection of the program that has a window of that title.
+    /// @return false when there is no such window
+    bool disconnectOwnerOf(const std::string& title);
+
     /// Asks the window manager to close a window, as its own close box and task bars do.
     /// @param title  the window's whole title
     /// @return false when there is no such window

@@ -4,6 +4,7 @@
 #include "tests/e2e/Patience.h"
 
 #include <algorithm>
+#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -35,6 +36,7 @@ std::map<std::string, std::string> environmentIn(const fs::path& home, Installat
             {"XDG_CONFIG_DIRS", system.string()},
             {"XDG_CACHE_HOME", (home / "cache").string()},
             {"XDG_DATA_HOME", (home / "data").string()},
+            {"XDG_STATE_HOME", (home / "state").string()},
             {"GDK_BACKEND", "x11"},
             // What the toolkit keeps until the end is none of the program's leaks.
             {"ASAN_OPTIONS", "detect_leaks=0"}};
@@ -271,6 +273,17 @@ void ProgramUnderTest::openListed(const Control& chooser, const std::string& nam
                            [&](const Control& control)
                            { return control.role() == "table cell" && control.name() == name; }));
     clickButton(chooser, "Open");
+}
+
+void ProgramUnderTest::sendSignal(int signal) const
+{
+    ::kill(process.id(), signal);
+}
+
+void ProgramUnderTest::cutOffFromScreen()
+{
+    if (!screen.disconnectOwnerOf(mainTitle))
+        throw std::runtime_error("no main window to take from the screen");
 }
 
 int ProgramUnderTest::waitForExit()

@@ -79,8 +79,14 @@ public:
     /// @param name  without its folder
     void openListed(const Control& chooser, const std::string& name);
 
+    /// Sends it a signal.
+    void sendSignal(int signal) const;
+
+    /// Breaks its connection to the screen, as it breaks when the screen's server goes.
+    void cutOffFromScreen();
+
     /// Waits until it has ended.
-    /// @return its exit code
+    /// @return its exit code; 128 and the signal's number when a signal has ended it
     int waitForExit();
 
     /// What it has written to stderr so far.

@@ -1,0 +1,105 @@
+#include "files/RescueCopy.h"
+
+#include "files/SafeWrite.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <exception>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+/// Local time, so that the user knows the day again.
+std::string timeStamp()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+#ifdef _WIN32
+    ::localtime_s(&local, &now);
+#else
+    ::localtime_r(&now, &local);
+#endif
+    std::array<char, 32> text{};
+    const std::size_t length = std::strftime(text.data(), text.size(), "-%Y%m%d-%H%M%S", &local);
+    return {text.data(), length};
+}
+
+/// A name in the folder that no other run has taken.
+fs::path freeName(const fs::path& folder, const fs::path& workName)
+{
+    const std::string stamp = timeStamp();
+    const fs::path stem = workName.has_stem() ? workName.stem() : fs::path("map");
+    for (int number = 1;; ++number)
+    {
+        fs::path name = stem;
+        name += stamp;
+        if (number > 1)
+            name += "-" + std::to_string(number);
+        name += workName.extension();
+        if (!fs::exists(folder / name))
+            return folder / name;
+    }
+}
+
+bool makeFolder(const fs::path& folder)
+{
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error)
+        return false;
+    // Maps tell how a plant is run: the folder keeps other users out before there is anything in it.
+    fs::permissions(folder, fs::perms::owner_all, error);
+    return !error;
+}
+
+/// Removes the oldest copies until no more than `keptCopies` are left.
+void removeOldest(const fs::path& folder)
+{
+    std::vector<std::pair<fs::file_time_type, fs::path>> copies;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+    {
+        if (entry.is_regular_file())
+            copies.emplace_back(entry.last_write_time(), entry.path());
+    }
+    if (copies.size() <= RescueCopy::keptCopies)
+        return;
+    std::sort(copies.begin(), copies.end());
+    copies.resize(copies.size() - RescueCopy::keptCopies);
+    for (const auto& [time, path] : copies)
+        fs::remove(path);
+}
+
+} // namespace
+
+RescueCopy::RescueCopy(fs::path copiesFolder) : folder(std::move(copiesFolder)) {}
+
+bool RescueCopy::write(const fs::path& workName, std::string_view bytes)
+try
+{
+    if (folder.empty() || !makeFolder(folder))
+        return false;
+    const fs::path target = copy.empty() ? freeName(folder, workName.filename()) : copy;
+    if (!writeFileSafely(target, bytes))
+        return false;
+    copy = target;
+    fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write);
+    removeOldest(folder);
+    return true;
+}
+catch (const std::exception&) // a folder that changes meanwhile, or no memory: there is nobody to tell
+{
+    return false;
+}
+
+void RescueCopy::remove()
+{
+    std::error_code ignored;
+    fs::remove(copy, ignored);
+    copy.clear();
+}

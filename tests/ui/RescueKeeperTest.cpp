@@ -1,0 +1,76 @@
+#include "ui/RescueKeeper.h"
+
+#include "files/ReadFile.h"
+#include "map/DefinitionFile.h"
+#include "tests/core/TempFolder.h"
+#include "tests/ui/UiTest.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+/// Milliseconds: a minute is long for a test.
+constexpr int quickly = 5;
+
+/// Locks a register: a change that any command may make.
+void change(Document& document, int address)
+{
+    document.map.placeObject(RegisterSpace::Coil, address, freeSlot(address), 1);
+}
+
+} // namespace
+
+TEST(RescueKeeper, RefreshesItsCopyAfterEachIntervalWithChanges)
+{
+    const TempFolder folder;
+    Document document("", folder / "north.csv", 0);
+    RescueKeeper keeper(document, folder / "rescue", quickly);
+    change(document, 3);
+    const auto holdsTheMap = [&] { return readFile(keeper.file()) == definitionText(document.map); };
+    EXPECT_TRUE(waitUntil(holdsTheMap));
+    change(document, 4);
+    EXPECT_TRUE(waitUntil(holdsTheMap));
+}
+
+TEST(RescueKeeper, WritesNothingWhileThereAreNoChanges)
+{
+    const TempFolder folder;
+    const Document document("", folder / "north.csv", 0);
+    RescueKeeper keeper(document, folder / "rescue", quickly);
+    // Ticks of one timer pass for ticks of another of the same length.
+    int ticks = 0;
+    wxTimer beside;
+    beside.Bind(wxEVT_TIMER, [&ticks](wxTimerEvent&) { ++ticks; });
+    beside.Start(quickly);
+    ASSERT_TRUE(waitUntil([&] { return ticks > 3; }));
+    EXPECT_EQ(keeper.file(), "");
+    EXPECT_FALSE(std::filesystem::exists(folder / "rescue"));
+}
+
+TEST(RescueKeeper, LeavesTheLastCopyWhenTheProgramEndsWithoutFinishing)
+{
+    const TempFolder folder;
+    Document document("", folder / "north.csv", 0);
+    std::filesystem::path copy;
+    {
+        RescueKeeper keeper(document, folder / "rescue", quickly);
+        change(document, 3);
+        ASSERT_TRUE(waitUntil([&] { return !keeper.file().empty(); }));
+        copy = keeper.file();
+    }
+    EXPECT_EQ(readFile(copy), definitionText(document.map));
+}
+
+TEST(RescueKeeper, RemovesTheCopyOfAMinuteWhenItsChangesAreSaved)
+{
+    const TempFolder folder;
+    Document document("", folder / "north.csv", 0);
+    RescueKeeper keeper(document, folder / "rescue", quickly);
+    change(document, 3);
+    ASSERT_TRUE(waitUntil([&] { return !keeper.file().empty(); }));
+    const std::filesystem::path copy = keeper.file();
+    ASSERT_TRUE(document.saveDefinition());
+    keeper.finish();
+    EXPECT_FALSE(std::filesystem::exists(copy));
+}

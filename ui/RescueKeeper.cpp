@@ -1,0 +1,63 @@
+#include "ui/RescueKeeper.h"
+
+#include "map/DefinitionFile.h"
+
+#include <chrono>
+#include <functional>
+#include <iostream>
+#include <new>
+#include <system_error>
+
+RescueKeeper::RescueKeeper(const Document& watched, std::filesystem::path folder, int interval)
+    : document(watched), copy(std::move(folder))
+{
+    timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { refresh(); });
+    timer.Start(interval);
+}
+
+void RescueKeeper::refresh()
+try
+{
+    const bool stillWriting = writing.valid() && writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+    if (stillWriting || !document.hasUnsavedChanges())
+        return;
+    std::string text = definitionText(document.map);
+    const std::size_t hash = std::hash<std::string>{}(text);
+    if (hash == writtenText)
+        return;
+    writtenText = hash;
+    // The text is made here, where nobody changes the map meanwhile. A slow disk is waited for elsewhere.
+    writing = std::async(std::launch::async,
+                         [this, name = document.definitionPath, made = std::move(text)] { copy.write(name, made); });
+}
+catch (const std::bad_alloc&)
+{
+    // The next minute may have more memory; the editor goes on.
+}
+catch (const std::system_error&)
+{
+    // No thread to be had: likewise.
+}
+
+void RescueKeeper::finish()
+try
+{
+    timer.Stop();
+    if (writing.valid())
+        writing.wait();
+    if (!document.hasUnsavedChanges())
+        return copy.remove();
+    if (copy.write(document.definitionPath, definitionText(document.map)))
+        std::cerr << "tolvane: unsaved changes are kept in " << copy.file().string() << std::endl;
+}
+catch (const std::bad_alloc&)
+{
+    // The copy of the last minute stays.
+}
+
+std::filesystem::path RescueKeeper::file()
+{
+    if (writing.valid())
+        writing.wait();
+    return copy.file();
+}
