@@ -26,6 +26,20 @@ wxWindow* findByTooltip(wxWindow& parent, const wxString& tooltip)
     return nullptr;
 }
 
+/// The first grid below a window other than the one given.
+wxGrid* findOtherGrid(const wxWindow& window, const wxGrid& known)
+{
+    for (wxWindow* const child : window.GetChildren())
+    {
+        auto* const grid = dynamic_cast<wxGrid*>(child);
+        if (grid && grid != &known)
+            return grid;
+        if (wxGrid* const found = findOtherGrid(*child, known))
+            return found;
+    }
+    return nullptr;
+}
+
 void sendKey(wxWindow& window, int key, bool control)
 {
     wxKeyEvent event(wxEVT_KEY_DOWN);
@@ -44,7 +58,8 @@ DrivenDocument::DrivenDocument(const std::filesystem::path& database, const std:
 }
 
 DrivenFrame::DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition)
-    : DrivenDocument(database, definition), MainFrame(driven, "/suite/")
+    : DrivenDocument(database, definition), MainFrame(driven, "/suite/"), tagGrid(findOtherGrid(*this, *mapGrid)),
+      filter(dynamic_cast<wxTextCtrl*>(findByTooltip(*this, "Tagname and Description filter")))
 {
 }
 
@@ -68,7 +83,7 @@ void DrivenFrame::click(const wxString& tooltip)
 
 void DrivenFrame::filterBy(const wxString& text)
 {
-    sourceFilter->SetValue(text);
+    filter->SetValue(text);
 }
 
 void DrivenFrame::showAllRegisters()

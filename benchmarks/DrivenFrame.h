@@ -7,6 +7,9 @@
 #include <filesystem>
 #include <memory>
 
+class wxGrid;
+class wxTextCtrl;
+
 /// The document of the driven window; a base class, so that it is still there when the window goes.
 struct DrivenDocument
 {
@@ -23,7 +26,7 @@ public:
     DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition);
 
     wxGrid& mapRows() { return *mapGrid; }
-    wxGrid& tagRows() { return *sourceGrid; }
+    wxGrid& tagRows() { return *tagGrid; }
 
     /// Presses a key in the map grid.
     void press(int key);
@@ -37,6 +40,10 @@ public:
 
     /// Toggles the view until the map grid shows every register.
     void showAllRegisters();
+
+private:
+    wxGrid* tagGrid;
+    wxTextCtrl* filter;
 };
 
 /// Shows the main window on the plant's database and map, maximised and painted, and takes it away again.

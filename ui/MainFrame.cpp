@@ -3,18 +3,15 @@
 #include "ui/CommandTable.h"
 #include "ui/ImageButton.h"
 #include "ui/NamedImages.h"
+#include "ui/PanelControls.h"
+#include "ui/SourceBrowser.h"
 #include "ui/SpaceButtons.h"
-#include "ui/Theme.h"
 #include "ui/grid/MapGridTable.h"
-#include "ui/grid/TagGridTable.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>
-#include <wx/scrolwin.h>
 #include <wx/sizer.h>
 #include <wx/splitter.h>
-#include <wx/textctrl.h>
-#include <wx/treectrl.h>
 
 namespace
 {
@@ -38,9 +35,10 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
 {
     SetIcons(namedIcon("icon_program"));
     mapTable = new MapGridTable(map);
-    showTable(*mapGrid, mapTable);
-    createSourceBrowser();
-    sourceBrowser->showDatabase();
+    panelControls::showTable(*mapGrid, mapTable);
+    sourceBrowser =
+        new SourceBrowser(splitter, document.database, [this](const Command& command) { command.run(*this); });
+    showSourcePanel(sourceBrowser);
     connectMenus();
     createButtons();
     Layout();
@@ -48,20 +46,10 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
     mapGrid->SetFocus();
 }
 
-void MainFrame::createSourceBrowser()
-{
-    auto* const table = new TagGridTable(document.database);
-    showTable(*sourceGrid, table);
-    const SourceBrowser::GroupLook groupLook{theme::colour(theme::groupFlag), theme::colour(theme::groupDescription),
-                                             theme::colour(theme::contentBackground)};
-    sourceBrowser = std::make_unique<SourceBrowser>(
-        SourceBrowser::Controls{*sourceTree, *sourceGrid, *sourceFilter, *groupFilters, *groupFilterSizer, groupLook},
-        document.database, *table);
-}
-
 void MainFrame::settleLayout()
 {
     splitter->SetSashPosition(splitter->GetSize().GetWidth() / 2);
+    sourceBrowser->fitColumns();
     fitColumns();
     Layout();
 }
@@ -82,7 +70,7 @@ void MainFrame::createSpaceButtons()
     mapButtonSizer->AddSpacer(FromDIP(wideGap));
     for (const auto& [space, image, tooltip] : spaceButtonOrder)
     {
-        wxBitmapButton* const button = createImageButton(mapHeader, image, tooltip, false);
+        wxBitmapButton* const button = createImageButton(mapButtonSizer->GetContainingWindow(), image, tooltip, false);
         button->Bind(wxEVT_BUTTON, [this, shown = space](wxCommandEvent&) { selectSpace(shown); });
         mapButtonSizer->Add(button, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(buttonBorder));
         spaceButtons[static_cast<std::size_t>(space)] = button;
@@ -91,15 +79,24 @@ void MainFrame::createSpaceButtons()
 
 void MainFrame::createButton(const Command& command)
 {
-    const bool global = command.bar == ButtonBar::Global;
-    wxWindow* const parent = global ? topBar : command.bar == ButtonBar::Database ? databaseHeader : mapHeader;
-    wxBoxSizer* const sizer = global                               ? topBarSizer
-                              : command.bar == ButtonBar::Database ? copyButtonSizer
-                                                                   : mapButtonSizer;
-    addGap(*sizer, command);
-    wxBitmapButton* const button = createImageButton(parent, command.image, command.tooltip, true);
+    wxBoxSizer& place = buttonPlace(command.bar);
+    addGap(place, command);
+    wxBitmapButton* const button = createImageButton(place.GetContainingWindow(), command.image, command.tooltip, true);
     button->Bind(wxEVT_BUTTON, [this, run = command.run](wxCommandEvent&) { run(*this); });
-    sizer->Add(button, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(buttonBorder));
+    place.Add(button, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(buttonBorder));
+}
+
+wxBoxSizer& MainFrame::buttonPlace(ButtonBar bar) const
+{
+    switch (bar)
+    {
+    case ButtonBar::Global:
+        return *topBarSizer;
+    case ButtonBar::Database:
+        return sourceBrowser->buttonPlace();
+    default:
+        return *mapButtonSizer;
+    }
 }
 
 void MainFrame::addGap(wxSizer& sizer, const Command& command) const

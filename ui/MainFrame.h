@@ -4,13 +4,12 @@
 #include "map/RegisterMoves.h"
 #include "ui/FileChooser.h"
 #include "ui/MainFrameBase.h"
-#include "ui/SourceBrowser.h"
 
 #include <array>
-#include <memory>
 #include <vector>
 
 class MapGridTable;
+class SourceBrowser;
 struct Command;
 enum class ButtonBar;
 class wxBitmapButton;
@@ -61,11 +60,6 @@ public:
     void exitAndSave();
 
 protected:
-    void OnSourceTreeSelChanged(wxTreeEvent& event) override;
-    void OnSourceTreeLeftUp(wxMouseEvent& event) override;
-    void OnSourceFilterChanged(wxCommandEvent& event) override;
-    void OnSourceGridKeyDown(wxKeyEvent& event) override;
-    void OnSourceGridRightDown(wxMouseEvent& event) override;
     void OnMapGridCellDClick(wxGridEvent& event) override;
     void OnMapGridKeyDown(wxKeyEvent& event) override;
     void OnMapGridRightDown(wxMouseEvent& event) override;
@@ -73,11 +67,11 @@ protected:
     void OnTimer(wxTimerEvent& event) override;
 
 private:
-    void createSourceBrowser();
     void connectMenus();
     void createButtons();
     void createSpaceButtons();
     void createButton(const Command& command);
+    wxBoxSizer& buttonPlace(ButtonBar bar) const;
     void addGap(wxSizer& sizer, const Command& command) const;
 
     void refreshMapView(int scrollAddress);
@@ -101,7 +95,7 @@ private:
     wxString deviceName;
 
     MapGridTable* mapTable = nullptr;
-    std::unique_ptr<SourceBrowser> sourceBrowser;
+    SourceBrowser* sourceBrowser = nullptr;
     std::array<wxBitmapButton*, spaceCount> spaceButtons{};
     bool refreshing = false;
 };

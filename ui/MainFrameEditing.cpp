@@ -8,6 +8,7 @@
 #include "ui/MainFrame.h"
 #include "ui/MessageBox.h"
 #include "ui/Messages.h"
+#include "ui/SourceBrowser.h"
 #include "ui/grid/MapGridTable.h"
 
 #include <wx/grid.h>
@@ -15,6 +16,11 @@
 void MainFrame::copySourceTags()
 {
     map.clipboard = ::copySourceTags(document.database.tags, sourceBrowser->selectedTags(), document.defaultByteOrder);
+}
+
+void MainFrame::selectAllTags()
+{
+    sourceBrowser->selectAllTags();
 }
 
 void MainFrame::copyRegisters()

@@ -1,4 +1,4 @@
-// The context menus of the two grids and their keys.
+// The entries of the context menus, and the menu and keys of the map grid.
 
 #include "ui/CommandTable.h"
 #include "ui/MainFrame.h"
@@ -40,19 +40,6 @@ void MainFrame::OnMapGridKeyDown(wxKeyEvent& event)
     if (refreshing)
         return;
     if (const Command* const command = commandForKey(CommandGrid::Map, event))
-        command->run(*this);
-    else
-        event.Skip();
-}
-
-void MainFrame::OnSourceGridRightDown(wxMouseEvent& event)
-{
-    sourceGrid->GetGridWindow()->PopupMenu(contextMenu(CommandGrid::Tags).get(), event.GetPosition());
-}
-
-void MainFrame::OnSourceGridKeyDown(wxKeyEvent& event)
-{
-    if (const Command* const command = commandForKey(CommandGrid::Tags, event))
         command->run(*this);
     else
         event.Skip();

@@ -1,12 +1,17 @@
 #include "ui/SourceBrowser.h"
 
+#include "ui/CommandTable.h"
+#include "ui/PanelControls.h"
 #include "ui/SourceTreeItem.h"
+#include "ui/Theme.h"
 #include "ui/ToolkitText.h"
 #include "ui/grid/GridSelection.h"
 #include "ui/grid/TagGridTable.h"
 
 #include <wx/checkbox.h>
 #include <wx/grid.h>
+#include <wx/menu.h>
+#include <wx/scrolwin.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -23,40 +28,34 @@ constexpr int groupBorder = 5;
 
 } // namespace
 
-SourceBrowser::SourceBrowser(const Controls& browserControls, const TagDatabase& tagDatabase, TagGridTable& tagRows)
-    : controls(browserControls), database(tagDatabase), table(tagRows)
+SourceBrowser::SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, CommandRunner commandRunner)
+    : SourceBrowserBase(parent), database(tagDatabase), runCommand(std::move(commandRunner)),
+      table(new TagGridTable(database)), searchIndex(database.tags)
 {
-}
-
-void SourceBrowser::showDatabase()
-{
-    searchIndex = TagSearchIndex(database.tags);
-    createGroupFilters();
+    panelControls::showTable(*sourceGrid, table);
+    createGroupBoxes();
     createTree();
-    refresh();
+    refreshTags();
 }
 
-void SourceBrowser::createGroupFilters()
+void SourceBrowser::createGroupBoxes()
 {
-    const int border = controls.groupArea.FromDIP(groupBorder);
+    const int border = FromDIP(groupBorder);
     const std::size_t count = std::min(database.groups.size(), filterableGroups);
     for (const TagGroup& group : std::span(database.groups).first(count))
     {
-        auto* const box =
-            new wxCheckBox(&controls.groupArea, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.flag)));
-        box->SetForegroundColour(controls.groupLook.flag);
-        box->SetBackgroundColour(controls.groupLook.background);
+        auto* const box = new wxCheckBox(groupFilters, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.flag)));
+        panelControls::dress(*box, theme::groupFlag, theme::contentBackground);
         groupBoxes.push_back(box);
-        controls.groupSizer.Add(box, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxTOP, border);
+        groupFilterSizer->Add(box, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxTOP, border);
 
-        auto* const text = new wxStaticText(&controls.groupArea, wxID_ANY, wxString());
+        auto* const text = new wxStaticText(groupFilters, wxID_ANY, wxString());
         text->SetLabelText(toolkitText(group.description));
-        text->SetForegroundColour(controls.groupLook.description);
-        text->SetBackgroundColour(controls.groupLook.background);
-        controls.groupSizer.Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT | wxTOP, border);
+        panelControls::dress(*text, theme::groupDescription, theme::contentBackground);
+        groupFilterSizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT | wxTOP, border);
     }
-    controls.groupArea.FitInside();
-    controls.groupArea.Layout();
+    groupFilters->FitInside();
+    groupFilters->Layout();
 }
 
 void SourceBrowser::createTree()
@@ -69,15 +68,15 @@ void SourceBrowser::createTree()
         const wxString text = toolkitText(node.label);
         auto* const payload = new SourceTreeItem(node.dbPrefix);
         if (node.parent < 0)
-            items.push_back(controls.tree.AddRoot(text, -1, -1, payload));
+            items.push_back(sourceTree->AddRoot(text, -1, -1, payload));
         else
             items.push_back(
-                controls.tree.AppendItem(items[static_cast<std::size_t>(node.parent)], text, -1, -1, payload));
+                sourceTree->AppendItem(items[static_cast<std::size_t>(node.parent)], text, -1, -1, payload));
     }
     if (!items.empty())
     {
-        controls.tree.ExpandAll();
-        controls.tree.SelectItem(items.front());
+        sourceTree->ExpandAll();
+        sourceTree->SelectItem(items.front());
     }
     filling = false;
 }
@@ -86,17 +85,17 @@ void SourceBrowser::selectNode(const wxTreeItemId& node)
 {
     if (!node.IsOk())
         return;
-    controls.tree.SelectItem(node);
-    if (const auto* const payload = dynamic_cast<const SourceTreeItem*>(controls.tree.GetItemData(node)))
+    sourceTree->SelectItem(node);
+    if (const auto* const payload = dynamic_cast<const SourceTreeItem*>(sourceTree->GetItemData(node)))
         currentPrefix = payload->dbPrefix;
-    refresh();
+    refreshTags();
 }
 
 TagFilter SourceBrowser::currentFilter() const
 {
     TagFilter filter;
     filter.prefix = currentPrefix;
-    filter.text = modelText(controls.filter.GetValue());
+    filter.text = modelText(sourceFilter->GetValue());
     for (std::size_t i = 0; i < groupBoxes.size(); ++i)
     {
         if (groupBoxes[i]->IsChecked())
@@ -105,14 +104,53 @@ TagFilter SourceBrowser::currentFilter() const
     return filter;
 }
 
-void SourceBrowser::refresh()
+void SourceBrowser::refreshTags()
 {
-    table.show(filterTags(database.tags, searchIndex, currentFilter()));
+    table->show(filterTags(database.tags, searchIndex, currentFilter()));
 }
 
 std::vector<int> SourceBrowser::selectedTags() const
 {
-    std::vector<int> tags = selectedRows(controls.grid);
-    std::transform(tags.begin(), tags.end(), tags.begin(), [this](int row) { return table.tagOf(row); });
+    std::vector<int> tags = selectedRows(*sourceGrid);
+    std::transform(tags.begin(), tags.end(), tags.begin(), [this](int row) { return table->tagOf(row); });
     return tags;
+}
+
+void SourceBrowser::selectAllTags()
+{
+    sourceGrid->SelectAll();
+}
+
+void SourceBrowser::OnSourceTreeSelChanged(wxTreeEvent& event)
+{
+    if (!filling)
+        selectNode(event.GetItem());
+}
+
+void SourceBrowser::OnSourceTreeLeftUp(wxMouseEvent& event)
+{
+    // The root is selected from the start without its prefix; a click on it brings no change of selection.
+    event.Skip();
+    const wxTreeItemId node = sourceTree->HitTest(event.GetPosition());
+    if (node.IsOk() && node == sourceTree->GetSelection())
+        selectNode(node);
+}
+
+void SourceBrowser::OnSourceFilterChanged(wxCommandEvent&)
+{
+    refreshTags();
+}
+
+void SourceBrowser::OnSourceGridKeyDown(wxKeyEvent& event)
+{
+    if (const Command* const command = commandForKey(CommandGrid::Tags, event))
+        runCommand(*command);
+    else
+        event.Skip();
+}
+
+void SourceBrowser::OnSourceGridRightDown(wxMouseEvent& event)
+{
+    // The entries' events go up to the main window, as those of the other menus do.
+    sourceGrid->GetGridWindow()->PopupMenu(contextMenu(CommandGrid::Tags).get(), event.GetPosition());
 }

@@ -2,74 +2,54 @@
 
 #include "source/TagDatabase.h"
 #include "source/TagFilter.h"
+#include "ui/SourceBrowserBase.h"
 
-#include <wx/colour.h>
-
+#include <functional>
 #include <string>
 #include <vector>
 
 class TagGridTable;
 class wxCheckBox;
-class wxFlexGridSizer;
-class wxGrid;
-class wxTextCtrl;
-class wxTreeCtrl;
 class wxTreeItemId;
-class wxWindow;
+struct Command;
 
 /// The source side: a tree that chooses a tag-name prefix, a text filter, group check boxes, and the grid of the tags
 /// that pass all three.
-class SourceBrowser
+class SourceBrowser : public SourceBrowserBase
 {
 public:
-    /// Colours of a group's check box and description.
-    struct GroupLook
-    {
-        wxColour flag;
-        wxColour description;
-        wxColour background;
-    };
+    /// How a command of the tag grid is run whose key was pressed.
+    using CommandRunner = std::function<void(const Command&)>;
 
-    /// The controls that the browser fills and reads; they outlive it.
-    struct Controls
-    {
-        wxTreeCtrl& tree;
-        wxGrid& grid;
-        wxTextCtrl& filter;
-        wxWindow& groupArea;
-        wxFlexGridSizer& groupSizer;
-        GroupLook groupLook;
-    };
-
-    /// @param tagDatabase  empty until it is loaded; outlives the browser
-    /// @param tagRows      the tag grid's table
-    SourceBrowser(const Controls& controls, const TagDatabase& tagDatabase, TagGridTable& tagRows);
-
-    /// Builds group check boxes, tree and tag grid from the database, as far as it was loaded.
-    void showDatabase();
-
-    /// Makes the prefix of a tree node the current one. Nodes without a prefix of their own change nothing.
-    void selectNode(const wxTreeItemId& node);
-
-    /// Lists the tags that pass prefix, text filter and checked groups.
-    void refresh();
+    /// Shows the database as far as it was loaded.
+    /// @param tagDatabase  loaded; outlives the browser
+    SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, CommandRunner commandRunner);
 
     /// Indices of the tags whose rows are selected, in row order.
     std::vector<int> selectedTags() const;
 
-    /// True while the tree is being built and its selection events mean nothing.
-    bool isFilling() const { return filling; }
+    /// Selects every listed tag.
+    void selectAllTags();
+
+protected:
+    void OnSourceTreeSelChanged(wxTreeEvent& event) override;
+    void OnSourceTreeLeftUp(wxMouseEvent& event) override;
+    void OnSourceFilterChanged(wxCommandEvent& event) override;
+    void OnSourceGridKeyDown(wxKeyEvent& event) override;
+    void OnSourceGridRightDown(wxMouseEvent& event) override;
 
 private:
-    void createGroupFilters();
+    void createGroupBoxes();
     void createTree();
+    void selectNode(const wxTreeItemId& node);
     TagFilter currentFilter() const;
+    void refreshTags();
 
-    Controls controls;
     const TagDatabase& database;
-    TagGridTable& table;
+    CommandRunner runCommand;
+    TagGridTable* table = nullptr;
     TagSearchIndex searchIndex;
     std::vector<wxCheckBox*> groupBoxes;
     std::string currentPrefix;
-    bool filling = false;
+    bool filling = false; ///< the tree is being built, and its selection events mean nothing
 };

@@ -3,14 +3,17 @@
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
 #include "ui/OpenDocument.h"
+#include "ui/SourceBrowser.h"
 #include "ui/ToolkitText.h"
 #include "ui/grid/GridSelection.h"
 
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>
-#include <wx/panel.h>
+#include <wx/scrolwin.h>
 #include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/treectrl.h>
 #include <wx/uiaction.h>
 
 #include <fstream>
@@ -45,6 +48,30 @@ void collectButtons(const wxWindow& window, const wxString& tooltip, std::vector
     }
 }
 
+/// A control of a kind below a window; none when there is none.
+template <typename Control>
+Control* findControl(const wxWindow& window)
+{
+    for (wxWindow* const child : window.GetChildren())
+    {
+        auto* const below = findControl<Control>(*child);
+        auto* const found = below ? below : dynamic_cast<Control*>(child);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
+/// The one control of a kind below a window.
+template <typename Control>
+Control* control(const wxWindow& window)
+{
+    auto* const found = findControl<Control>(window);
+    if (!found)
+        throw std::invalid_argument("no such control");
+    return found;
+}
+
 } // namespace
 
 ShownDocument::ShownDocument(const DocumentFiles& files) : shown(files.database, files.definition, files.swapFlags)
@@ -55,7 +82,10 @@ ShownDocument::ShownDocument(const DocumentFiles& files) : shown(files.database,
 EditorWindow::EditorWindow(const DocumentFiles& files)
     : ShownDocument(files),
       MainFrame(shown, "/suite/",
-                [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); })
+                [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); }),
+      sourceBrowser(control<SourceBrowser>(*this)), sourceTree(control<wxTreeCtrl>(*sourceBrowser)),
+      sourceFilter(control<wxTextCtrl>(*sourceBrowser)), sourceGrid(control<wxGrid>(*sourceBrowser)),
+      groupFilters(control<wxScrolledWindow>(*sourceBrowser))
 {
 }
 
@@ -71,7 +101,7 @@ wxBitmapButton* EditorWindow::button(const wxString& tooltip) const
 wxBitmapButton* EditorWindow::sourceCopyButton() const
 {
     std::vector<wxBitmapButton*> found;
-    collectButtons(*databaseHeader, "Copy - ctrl c", found);
+    collectButtons(*sourceBrowser, "Copy - ctrl c", found);
     return found.front();
 }
 

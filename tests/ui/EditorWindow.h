@@ -8,7 +8,11 @@
 #include <string_view>
 #include <vector>
 
+class SourceBrowser;
 class wxBitmapButton;
+class wxScrolledWindow;
+class wxTextCtrl;
+class wxTreeCtrl;
 
 /// The files of a document and the byte order it starts with.
 struct DocumentFiles
@@ -40,13 +44,16 @@ public:
     /// Answers in place of the desktop's file dialog from now on.
     void setFileChooser(FileChooser answer) { chooser = std::move(answer); }
 
-    using MainFrameBase::groupFilters;
     using MainFrameBase::mapGrid;
-    using MainFrameBase::sourceFilter;
-    using MainFrameBase::sourceGrid;
-    using MainFrameBase::sourceTree;
     using MainFrameBase::statusLabel;
     using MainFrameBase::viewLabel;
+
+    // The controls of the source side, as they are found inside the window.
+    SourceBrowser* const sourceBrowser;
+    wxTreeCtrl* const sourceTree;
+    wxTextCtrl* const sourceFilter;
+    wxGrid* const sourceGrid;
+    wxScrolledWindow* const groupFilters;
 
     /// The button with that tooltip; where two have it, the one on the map's side.
     wxBitmapButton* button(const wxString& tooltip) const;

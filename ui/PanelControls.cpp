@@ -1,0 +1,103 @@
+#include "ui/PanelControls.h"
+
+#include "ui/Theme.h"
+#include "ui/grid/CellTooltips.h"
+#include "ui/grid/ColumnWidths.h"
+#include "ui/grid/RowCellRenderer.h"
+
+#include <wx/grid.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include <vector>
+
+namespace
+{
+
+/// Pixels of a title row with its buttons.
+constexpr int titleRowHeight = 42;
+
+/// Pixels on both sides of a title.
+constexpr int titleBorder = 8;
+
+/// Gives a grid its fonts and colours.
+void dressGrid(wxGrid& grid)
+{
+    grid.SetDefaultCellFont(theme::regular(10));
+    grid.SetLabelFont(theme::regular(10));
+    grid.SetDefaultCellTextColour(theme::colour(theme::cellText));
+    grid.SetDefaultCellBackgroundColour(theme::colour(theme::contentBackground));
+    grid.SetCellHighlightColour(theme::colour(theme::selection));
+    grid.SetSelectionBackground(theme::colour(theme::selection));
+    grid.SetSelectionForeground(theme::colour(theme::contentText));
+    panelControls::dress(grid, theme::cellText, theme::contentBackground);
+}
+
+} // namespace
+
+namespace panelControls
+{
+
+void dress(wxWindow& window, Rgb text, Rgb background)
+{
+    window.SetForegroundColour(theme::colour(text));
+    window.SetBackgroundColour(theme::colour(background));
+}
+
+wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& font, Rgb colour)
+{
+    auto* const label = new wxStaticText(parent, wxID_ANY, text);
+    label->SetFont(font);
+    label->SetForegroundColour(theme::colour(colour));
+    return label;
+}
+
+wxPanel* createTitleRow(wxWindow* parent, const wxString& title)
+{
+    auto* const row = new wxPanel(parent);
+    dress(*row, theme::frameText, theme::headerBackground);
+    row->SetMinSize(row->FromDIP(wxSize(-1, titleRowHeight)));
+    auto* const text = createText(row, title, theme::semibold(16), theme::title);
+    text->SetBackgroundColour(theme::colour(theme::headerBackground));
+    auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
+    sizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, row->FromDIP(titleBorder));
+    row->SetSizer(sizer);
+    return row;
+}
+
+wxGrid* createGrid(wxWindow* parent, GridColumns columns)
+{
+    auto* const grid = new wxGrid(parent, wxID_ANY);
+    grid->CreateGrid(0, static_cast<int>(columns.size()), wxGrid::wxGridSelectRows);
+    grid->EnableEditing(false);
+    grid->EnableGridLines(false);
+    grid->SetMargins(0, 0);
+    grid->SetRowLabelSize(0);
+    grid->SetColLabelSize(0);
+    grid->SetDefaultRowSize(grid->FromDIP(rowHeight));
+    grid->SetScrollLineY(grid->FromDIP(rowHeight)); // no row is ever cut at the top
+    grid->DisableDragRowSize();
+    grid->DisableDragGridSize(); // a click near the edge of a cell is meant for its row
+    grid->SetDefaultCellOverflow(false);
+    grid->SetDefaultRenderer(new RowCellRenderer);
+    grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
+    dressGrid(*grid);
+    for (std::size_t column = 0; column < columns.size(); ++column)
+        grid->SetColSize(static_cast<int>(column), columnWidths::opening(*grid, columns[column]));
+    showCellTooltips(*grid);
+    return grid;
+}
+
+void showTable(wxGrid& grid, wxGridTableBase* table)
+{
+    std::vector<int> widths;
+    widths.reserve(static_cast<std::size_t>(grid.GetNumberCols()));
+    for (int column = 0; column < grid.GetNumberCols(); ++column)
+        widths.push_back(grid.GetColSize(column));
+    grid.SetTable(table, true, wxGrid::wxGridSelectRows);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        grid.SetColSize(static_cast<int>(column), widths[column]);
+}
+
+} // namespace panelControls

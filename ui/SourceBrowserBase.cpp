@@ -1,0 +1,134 @@
+#include "ui/SourceBrowserBase.h"
+
+#include "ui/PanelControls.h"
+#include "ui/Theme.h"
+#include "ui/grid/GridHeader.h"
+
+#include <wx/grid.h>
+#include <wx/scrolwin.h>
+#include <wx/sizer.h>
+#include <wx/statline.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/treectrl.h>
+
+namespace
+{
+
+/// Pixels of the group filters before they scroll.
+constexpr int groupFilterHeight = 172;
+
+/// Pixels that the filter field takes at least.
+constexpr int filterWidth = 220;
+
+} // namespace
+
+SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : wxPanel(parent)
+{
+    panelControls::dress(*this, theme::frameText, theme::frameBackground);
+    auto* const columns = new wxBoxSizer(wxHORIZONTAL);
+    columns->Add(createTreeColumn(), 1, wxEXPAND);
+    columns->Add(createTagColumn(), 3, wxEXPAND | wxLEFT, FromDIP(1));
+    auto* const sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(columns, 1, wxEXPAND);
+    createGroupFilters(*sizer);
+    SetSizer(sizer);
+    SetDoubleBuffered(true);
+    connectEvents();
+}
+
+wxSizer* SourceBrowserBase::createTreeColumn()
+{
+    wxPanel* const titleRow = panelControls::createTitleRow(this, "SOURCE");
+    sourceTree = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTR_DEFAULT_STYLE | wxBORDER_NONE);
+    sourceTree->SetFont(theme::semibold(12));
+    panelControls::dress(*sourceTree, theme::contentText, theme::contentBackground);
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(titleRow, 0, wxEXPAND);
+    column->Add(sourceTree, 1, wxEXPAND);
+    return column;
+}
+
+wxSizer* SourceBrowserBase::createTagColumn()
+{
+    wxPanel* const titleRow = createDatabaseRow();
+    sourceGrid = panelControls::createGrid(this, tagColumns);
+    sourceGridHeader = new GridHeader(this, *sourceGrid, tagColumns);
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(titleRow, 0, wxEXPAND);
+    column->Add(sourceGridHeader, 0, wxEXPAND);
+    column->Add(sourceGrid, 1, wxEXPAND);
+    return column;
+}
+
+wxPanel* SourceBrowserBase::createDatabaseRow()
+{
+    wxPanel* const row = panelControls::createTitleRow(this, "DATABASE");
+    wxSizer& sizer = *row->GetSizer();
+    buttonSizer = new wxBoxSizer(wxHORIZONTAL);
+    sizer.Add(buttonSizer, 0, wxALIGN_CENTRE_VERTICAL);
+    sizer.AddStretchSpacer();
+    sizer.Add(panelControls::createText(row, "Filter", theme::regular(11), theme::contentText), 0,
+              wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(6));
+    sourceFilter = new wxTextCtrl(row, wxID_ANY);
+    sourceFilter->SetFont(theme::regular(10));
+    panelControls::dress(*sourceFilter, theme::filterText, theme::contentBackground);
+    sourceFilter->SetToolTip("Tagname and Description filter");
+    sourceFilter->SetMinSize(FromDIP(wxSize(filterWidth, -1)));
+    sizer.Add(sourceFilter, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
+    return row;
+}
+
+void SourceBrowserBase::createGroupFilters(wxSizer& column)
+{
+    column.Add(new wxStaticLine(this), 0, wxEXPAND | wxTOP, FromDIP(1));
+    column.Add(panelControls::createText(this, "Group Filters", theme::semibold(14), theme::title), 0, wxLEFT | wxTOP,
+               FromDIP(8));
+    groupFilters = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
+    groupFilters->SetScrollRate(0, FromDIP(panelControls::rowHeight));
+    groupFilters->SetMinSize(FromDIP(wxSize(-1, groupFilterHeight)));
+    panelControls::dress(*groupFilters, theme::groupDescription, theme::contentBackground);
+    groupFilterSizer = new wxFlexGridSizer(2, 0, 0);
+    groupFilters->SetSizer(groupFilterSizer);
+    column.Add(groupFilters, 0, wxEXPAND | wxALL, FromDIP(4));
+}
+
+void SourceBrowserBase::connectEvents()
+{
+    sourceTree->Bind(wxEVT_TREE_SEL_CHANGED, &SourceBrowserBase::OnSourceTreeSelChanged, this);
+    sourceTree->Bind(wxEVT_LEFT_UP, &SourceBrowserBase::OnSourceTreeLeftUp, this);
+    sourceFilter->Bind(wxEVT_TEXT, &SourceBrowserBase::OnSourceFilterChanged, this);
+    groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
+    sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
+    sourceGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &SourceBrowserBase::OnSourceGridRightDown, this);
+}
+
+void SourceBrowserBase::fitColumns()
+{
+    sourceGridHeader->settle();
+}
+
+void SourceBrowserBase::OnSourceTreeSelChanged(wxTreeEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceTreeLeftUp(wxMouseEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceFilterChanged(wxCommandEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceGridKeyDown(wxKeyEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceGridRightDown(wxMouseEvent& event)
+{
+    event.Skip();
+}
