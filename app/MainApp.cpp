@@ -13,7 +13,7 @@
 
 #include <cstdlib>
 
-wxIMPLEMENT_APP(MainApp);
+wxIMPLEMENT_APP_NO_MAIN(MainApp);
 
 namespace
 {

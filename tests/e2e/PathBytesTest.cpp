@@ -1,0 +1,55 @@
+// A path is the bytes that the system gave: the file of exactly that name is opened and saved.
+
+#include "tests/e2e/Patience.h"
+#include "tests/e2e/SmallPlant.h"
+
+#include <cstdlib>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
+                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
+constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
+
+class PathBytes : public SmallPlant
+{
+protected:
+    /// Opens both files under names with these bytes in them, changes the map and saves it.
+    void expectOwnFileOpenedAndSaved(const std::string& bytes)
+    {
+        const fs::path tags = folder / ("plant" + bytes + ".json");
+        fs::copy_file(database, tags);
+        const fs::path file = write("map" + bytes + ".csv", twoObjects);
+        ProgramUnderTest& program = open(tags, file);
+        EXPECT_EQ(program.tagGrid().filledRows(), 6);
+        GridOnScreen grid = program.mapGrid();
+        ASSERT_EQ(grid.filledRows(), 2);
+        grid.select(0);
+        screen.pressKey("Delete");
+        ASSERT_TRUE(waitFor([&] { return grid.filledRows() == 1; }));
+        leaveAnswering("Yes");
+        EXPECT_EQ(contentOf(file), secondObject);
+        EXPECT_EQ(filesInFolder(), 4) << "a file of another name was made";
+    }
+
+private:
+    /// The home folder, the small plant's own database, and the two files.
+    std::ptrdiff_t filesInFolder() const { return std::distance(fs::directory_iterator(folder), {}); }
+};
+
+} // namespace
+
+TEST_F(PathBytes, OfAnUmlautCountUnderAPlainCLocale)
+{
+    ::setenv("LC_ALL", "C", 1);
+    expectOwnFileOpenedAndSaved("-pl\xC3\xA4nt");
+}
+
+TEST_F(PathBytes, ThatAreNoUtf8CountUnderAUtf8Locale)
+{
+    ::setenv("LC_ALL", "C.UTF-8", 1);
+    expectOwnFileOpenedAndSaved("-pl\xE4nt");
+}
