@@ -7,8 +7,6 @@
 
 #include <wx/grid.h>
 
-#include <cstring>
-
 namespace
 {
 
@@ -51,8 +49,8 @@ void copySpace(benchmark::State& state)
     measure(state,
             [&]
             {
-                std::memcpy(copy->data(), map.currentSlots().data(), sizeof(RegisterSlots));
-                benchmark::DoNotOptimize(copy->data());
+                *copy = map.currentSlots();
+                benchmark::DoNotOptimize(copy.get());
                 benchmark::ClobberMemory();
             });
 }

@@ -7,7 +7,7 @@
 #include "map/Compress.h"
 #include "map/RegisterMoves.h"
 
-#include <cstring>
+#include <algorithm>
 #include <numeric>
 
 namespace
@@ -43,9 +43,8 @@ void copySlots(benchmark::State& state, int count)
     measure(state,
             [&]
             {
-                std::memcpy(copy->data(), map.currentSlots().data(),
-                            static_cast<std::size_t>(count) * sizeof(RegisterEntry));
-                benchmark::DoNotOptimize(copy->data());
+                std::copy_n(map.currentSlots().begin(), count, copy->begin());
+                benchmark::DoNotOptimize(copy.get());
                 benchmark::ClobberMemory();
             });
 }
@@ -89,7 +88,7 @@ void shoveThroughRun(benchmark::State& state, int pushed)
     const std::vector<int> block = addressesFrom(0, pushed);
     measureOn(state, map,
               [&] { benchmark::DoNotOptimize(moveSlots(map.currentSlots(), block, MoveDirection::Down, true)); });
-    expect(state, !map.currentSlots()[0].used && map.currentSlots()[static_cast<std::size_t>(pushed + longRun)].used);
+    expect(state, !map.currentSlots()[0].used && map.currentSlots()[pushed + longRun].used);
 }
 
 void compressHalfFull(benchmark::State& state)

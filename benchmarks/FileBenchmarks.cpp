@@ -82,7 +82,7 @@ Measurement loadingMap(FileIn place)
                 prepareReading(path, place);
             },
             [&] { benchmark::DoNotOptimize(loadDefinitionFile(path, map, tags)); });
-        if (!map.currentSlots().back().used)
+        if (!map.currentSlots()[lastAddress].used)
             state.SkipWithError("the map is not loaded");
     };
 }

@@ -124,7 +124,7 @@ void purge(benchmark::State& state)
             deleteErrorRegisters(map);
             validateMap(map, noTags);
         });
-    if (map.currentSlots().front().used)
+    if (map.currentSlots()[0].used)
         state.SkipWithError("a register in error is left");
 }
 

@@ -1,7 +1,6 @@
 #include "map/Clipboard.h"
 
 #include "map/Insertion.h"
-#include "map/SlotAccess.h"
 
 #include <algorithm>
 #include <optional>
@@ -11,11 +10,11 @@ namespace
 
 std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
 {
-    if (!isAddress(rowAddress))
+    if (!RegisterSlots::contains(rowAddress))
         return std::nullopt;
-    const RegisterEntry& slot = slotAt(slots, rowAddress);
+    const RegisterEntry& slot = slots[rowAddress];
     const std::uint32_t head = static_cast<std::uint32_t>(rowAddress) + slot.startAddress - slot.address;
-    if (!isAddress(head))
+    if (!RegisterSlots::contains(head))
         return std::nullopt;
     return static_cast<int>(head);
 }
@@ -24,9 +23,9 @@ std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
 bool hasRoom(const RegisterSlots& slots, int target, std::size_t wanted)
 {
     std::size_t room = 0;
-    for (int address = target; address <= lastAddress && !slotAt(slots, address).locked && room < wanted; ++address)
+    for (int address = target; address <= lastAddress && !slots[address].locked && room < wanted; ++address)
     {
-        if (!slotAt(slots, address).used)
+        if (!slots[address].used)
             ++room;
     }
     return room >= wanted;
@@ -35,7 +34,7 @@ bool hasRoom(const RegisterSlots& slots, int target, std::size_t wanted)
 /// @return 65536 when every slot from `address` on is used
 int firstFreeSlotFrom(const RegisterSlots& slots, int address)
 {
-    while (address <= lastAddress && slotAt(slots, address).used)
+    while (address <= lastAddress && slots[address].used)
         ++address;
     return address;
 }
@@ -51,8 +50,8 @@ void copyRegisters(RegisterMap& map, std::span<const int> addresses)
     map.clipboard.reserve(useful.size());
     for (const int address : useful)
     {
-        if (isAddress(address))
-            map.clipboard.push_back(slotAt(map.currentSlots(), address));
+        if (RegisterSlots::contains(address))
+            map.clipboard.push_back(map.currentSlots()[address]);
     }
 }
 
@@ -95,7 +94,7 @@ PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
 
 bool appendRegisters(RegisterMap& map, int rowAddress)
 {
-    if (map.clipboard.empty() || !isAddress(rowAddress))
+    if (map.clipboard.empty() || !RegisterSlots::contains(rowAddress))
         return false;
     const int target = firstFreeSlotFrom(map.currentSlots(), rowAddress);
     if (map.clipboard.size() > static_cast<std::size_t>(registersPerSpace - target))

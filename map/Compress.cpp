@@ -1,7 +1,5 @@
 #include "map/Compress.h"
 
-#include "map/SlotAccess.h"
-
 #include <algorithm>
 
 namespace
@@ -11,15 +9,15 @@ namespace
 /// @param head  address of its head, above `place`
 void moveObjectUp(RegisterSlots& slots, int head, int place)
 {
-    const std::int64_t behind = std::int64_t{head} + slotAt(slots, head).registerCount;
+    const std::int64_t behind = std::int64_t{head} + slots[head].registerCount;
     const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
     for (int from = head, to = place; from < end; ++from, ++to)
     {
-        RegisterEntry& moved = slotAt(slots, to);
-        moved = slotAt(slots, from);
+        RegisterEntry& moved = slots[to];
+        moved = slots[from];
         moved.startAddress = static_cast<std::uint32_t>(place);
         moved.address = static_cast<std::uint32_t>(to);
-        slotAt(slots, from) = freeSlot(from);
+        slots[from] = freeSlot(from);
     }
 }
 
@@ -28,7 +26,7 @@ void closeGaps(RegisterSlots& slots, int place, int last)
 {
     for (int address = place; address <= last; ++address)
     {
-        const RegisterEntry& slot = slotAt(slots, address);
+        const RegisterEntry& slot = slots[address];
         if (!slot.used || !isHead(slot))
             continue;
         const std::uint32_t length = slot.registerCount;
@@ -43,7 +41,7 @@ void closeGaps(RegisterSlots& slots, int place, int last)
 
 CompressResult compressRegisters(RegisterSlots& slots, std::span<const int> addresses)
 {
-    if (addresses.empty() || !isAddress(addresses.front()) || !isAddress(addresses.back()))
+    if (addresses.empty() || !RegisterSlots::contains(addresses.front()) || !RegisterSlots::contains(addresses.back()))
         return CompressResult::NothingSelected;
     if (addresses.front() > addresses.back())
         return CompressResult::Unchanged;

@@ -86,7 +86,7 @@ void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields)
     const RegisterEntry values = slotValues(*object, InternedText(object->tagname), InternedText(object->description));
     for (int address = object->firstAddress(); address < object->endAddress(); ++address)
     {
-        RegisterEntry& slot = map.slots(object->space)[static_cast<std::size_t>(address)];
+        RegisterEntry& slot = map.slots(object->space)[address];
         overwriteSlot(slot, address, values);
         slot.SwapBytes |= object->SwapBytes;
         slot.SwapWords |= object->SwapWords;

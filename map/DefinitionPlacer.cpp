@@ -1,7 +1,5 @@
 #include "map/DefinitionPlacer.h"
 
-#include "map/SlotAccess.h"
-
 #include <string_view>
 
 namespace
@@ -53,11 +51,11 @@ void DefinitionPlacer::place(const DefinitionObject& object, const RegisterEntry
     const int first = object.firstAddress();
     const int end = object.endAddress();
     RegisterSlots& slots = map.slots(object.space);
-    left.slots.visit(first, end, [&](int address) { overwriteSlot(slotAt(slots, address), address, values); });
+    left.slots.visit(first, end, [&](int address) { overwriteSlot(slots[address], address, values); });
     if (object.SwapBytes)
-        left.swapBytes.visit(first, end, [&](int address) { slotAt(slots, address).SwapBytes = true; });
+        left.swapBytes.visit(first, end, [&](int address) { slots[address].SwapBytes = true; });
     if (object.SwapWords)
-        left.swapWords.visit(first, end, [&](int address) { slotAt(slots, address).SwapWords = true; });
+        left.swapWords.visit(first, end, [&](int address) { slots[address].SwapWords = true; });
     if (object.SwapLongs)
-        left.swapLongs.visit(first, end, [&](int address) { slotAt(slots, address).SwapLongs = true; });
+        left.swapLongs.visit(first, end, [&](int address) { slots[address].SwapLongs = true; });
 }

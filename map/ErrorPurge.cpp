@@ -1,7 +1,6 @@
 #include "map/ErrorPurge.h"
 
 #include "map/ErrorMarks.h"
-#include "map/SlotAccess.h"
 
 void deleteErrorRegisters(RegisterMap& map)
 {
@@ -9,7 +8,7 @@ void deleteErrorRegisters(RegisterMap& map)
     {
         for (int address = 0; address <= lastAddress; ++address)
         {
-            if (hasError(slotAt(map.slots(space), address)))
+            if (hasError(map.slots(space)[address]))
                 map.eraseObject(space, address);
         }
     }

@@ -1,7 +1,5 @@
 #include "map/Insertion.h"
 
-#include "map/SlotAccess.h"
-
 #include <algorithm>
 #include <optional>
 
@@ -18,9 +16,9 @@ struct InsertionPlan
 /// The free slot that lets the run at `address` grow by one; nothing when a lock or the end of the space is before it.
 std::optional<int> nextFreeSlot(const RegisterSlots& slots, int address)
 {
-    for (int place = address; place <= lastAddress && !slotAt(slots, place).locked; ++place)
+    for (int place = address; place <= lastAddress && !slots[place].locked; ++place)
     {
-        if (!slotAt(slots, place).used)
+        if (!slots[place].used)
             return place;
     }
     return std::nullopt;
@@ -34,7 +32,7 @@ InsertionPlan planInsertion(const RegisterSlots& slots, int target, std::size_t 
     for (std::size_t i = 0; i < count && plan.writtenEnd <= lastAddress; ++i)
     {
         const bool nothingDisplaced = plan.displacedEnd == plan.writtenEnd;
-        if (nothingDisplaced && !slotAt(slots, plan.writtenEnd).used)
+        if (nothingDisplaced && !slots[plan.writtenEnd].used)
         {
             ++plan.displacedEnd;
         }
@@ -56,9 +54,9 @@ void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
     int from = plan.displacedEnd - 1;
     for (int place = plan.displacedEnd - 1; place >= plan.writtenEnd; --place, --from)
     {
-        while (!slotAt(slots, from).used)
+        while (!slots[from].used)
             --from;
-        slotAt(slots, place) = shifted(slotAt(slots, from), static_cast<std::uint32_t>(place - from));
+        slots[place] = shifted(slots[from], static_cast<std::uint32_t>(place - from));
     }
 }
 
@@ -66,11 +64,11 @@ void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
 
 void insertRegisters(RegisterSlots& slots, std::span<const RegisterEntry> elements, int target)
 {
-    if (!isAddress(target))
+    if (!RegisterSlots::contains(target))
         return;
     const InsertionPlan plan = planInsertion(slots, target, elements.size());
     pushDisplaced(slots, plan);
     auto element = elements.begin();
     for (int address = target; address < plan.writtenEnd; ++address, ++element)
-        slotAt(slots, address) = shifted(*element, static_cast<std::uint32_t>(address) - element->address);
+        slots[address] = shifted(*element, static_cast<std::uint32_t>(address) - element->address);
 }

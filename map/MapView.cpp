@@ -35,16 +35,16 @@ std::vector<int> shownAddresses(const RegisterSlots& slots, ViewMode mode)
     std::vector<int> addresses;
     if (mode == ViewMode::All)
     {
-        addresses.resize(slots.size());
+        addresses.resize(RegisterSlots::size());
         std::iota(addresses.begin(), addresses.end(), 0);
         return addresses;
     }
     if (mode != ViewMode::Expanded && mode != ViewMode::Compressed)
         return addresses;
-    for (const RegisterEntry& slot : slots)
+    for (int address = 0; address < RegisterSlots::size(); ++address)
     {
-        if (slot.used && (mode == ViewMode::Expanded || isHead(slot)))
-            addresses.push_back(static_cast<int>(&slot - slots.data()));
+        if (slots[address].used && (mode == ViewMode::Expanded || isHead(slots[address])))
+            addresses.push_back(address);
     }
     return addresses;
 }

@@ -1,7 +1,6 @@
 #include "map/RegisterEdit.h"
 
 #include "map/Insertion.h"
-#include "map/SlotAccess.h"
 #include "text/Characters.h"
 
 #include <algorithm>
@@ -59,33 +58,33 @@ std::vector<RegisterEntry> registersOf(const RegisterEntry& headEntry, int head,
 
 std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress)
 {
-    if (!isAddress(rowAddress))
+    if (!RegisterSlots::contains(rowAddress))
         return std::nullopt;
     int address = rowAddress;
-    while (address > 0 && isContinuation(slotAt(slots, address)))
+    while (address > 0 && isContinuation(slots[address]))
         --address;
-    return slotAt(slots, address).locked ? std::nullopt : std::optional(address);
+    return slots[address].locked ? std::nullopt : std::optional(address);
 }
 
 RegisterEntry editedEntry(const RegisterSlots& slots, int head)
 {
-    const RegisterEntry& slot = slotAt(slots, head);
+    const RegisterEntry& slot = slots[head];
     return slot.used ? slot : freeSlot(head);
 }
 
 EditRoom editRoom(const RegisterSlots& slots, int head)
 {
-    const std::int64_t count = registersTaken(slotAt(slots, head));
+    const std::int64_t count = registersTaken(slots[head]);
     const auto behind = static_cast<int>(std::min<std::int64_t>(head + count, registersPerSpace));
 
     int firstUsed = behind;
-    while (firstUsed <= lastAddress && !slotAt(slots, firstUsed).used)
+    while (firstUsed <= lastAddress && !slots[firstUsed].used)
         ++firstUsed;
 
     int freeBeforeLock = 0;
-    for (int address = behind; address <= lastAddress && !slotAt(slots, address).locked; ++address)
+    for (int address = behind; address <= lastAddress && !slots[address].locked; ++address)
     {
-        if (!slotAt(slots, address).used)
+        if (!slots[address].used)
             ++freeBeforeLock;
     }
     return {saturated(count + firstUsed - behind), saturated(count + freeBeforeLock)};
@@ -141,8 +140,8 @@ std::optional<FieldVisibility> visibilityFor(std::string_view typeName)
 
 void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited)
 {
-    if (!isAddress(head) || slotAt(slots, head).locked)
+    if (!RegisterSlots::contains(head) || slots[head].locked)
         return;
-    clearSlots(slots, head, registersTaken(slotAt(slots, head)));
+    clearSlots(slots, head, registersTaken(slots[head]));
     insertRegisters(slots, registersOf(entryOf(edited, head), head, edited.registerCount), head);
 }

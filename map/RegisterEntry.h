@@ -69,6 +69,15 @@ constexpr std::uint32_t registersTaken(const RegisterEntry& slot)
     return slot.used ? slot.registerCount : 1;
 }
 
+/// A copy of a slot that stands elsewhere, keeping its place inside its object.
+/// @param distance  registers to add to both addresses, modulo 2^32: towards address 0 by adding a negative number
+constexpr RegisterEntry shifted(RegisterEntry slot, std::uint32_t distance)
+{
+    slot.startAddress += distance;
+    slot.address += distance;
+    return slot;
+}
+
 /// The byte-order flags as grids and exports show them: "B" or "-", "W" or "-", "L" or "-".
 inline std::array<char, 3> byteOrderCharacters(const RegisterEntry& slot)
 {

@@ -1,35 +1,9 @@
 #include "map/RegisterMap.h"
 
-#include "map/SlotAccess.h"
-
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
-
-/// Copied whole and then addressed: building each slot field by field takes seven times as long.
-constexpr RegisterEntry anyFreeSlot = freeSlot(0);
-
-} // namespace
-
-void clearSlots(RegisterSlots& slots, int first, std::uint32_t count)
-{
-    const auto end = static_cast<int>(std::min<std::int64_t>(std::int64_t{first} + count, registersPerSpace));
-    for (int address = first; address < end; ++address)
-    {
-        RegisterEntry& slot = slots[static_cast<std::size_t>(address)];
-        slot = anyFreeSlot;
-        slot.startAddress = static_cast<std::uint32_t>(address);
-        slot.address = slot.startAddress;
-    }
-}
-
-RegisterMap::RegisterMap() : spaces(std::make_unique<Spaces>()), snapshot(std::make_unique<Spaces>())
-{
-    initialise();
-    takeSnapshot();
-}
+RegisterMap::RegisterMap() : spaces(std::make_unique<Spaces>()), snapshot(std::make_unique<Spaces>(*spaces)) {}
 
 void RegisterMap::initialise()
 {
@@ -42,15 +16,15 @@ void RegisterMap::initialise()
 
 void RegisterMap::clearSlot(RegisterSpace space, int address)
 {
-    if (isAddress(address))
+    if (RegisterSlots::contains(address))
         clearSlots(slots(space), address, 1);
 }
 
 bool RegisterMap::eraseObject(RegisterSpace space, int address)
 {
-    if (!isAddress(address))
+    if (!RegisterSlots::contains(address))
         return false;
-    const RegisterEntry& judge = currentSlots()[static_cast<std::size_t>(address)];
+    const RegisterEntry& judge = currentSlots()[address];
     if (judge.locked)
         return false;
     if (isContinuation(judge))
@@ -62,7 +36,7 @@ bool RegisterMap::eraseObject(RegisterSpace space, int address)
 
 void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntry& entry, int count)
 {
-    if (!isAddress(start))
+    if (!RegisterSlots::contains(start))
         return;
     RegisterEntry slot = entry;
     slot.used = true;
@@ -71,7 +45,7 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
     for (int address = start; address < end; ++address)
     {
         slot.address = static_cast<std::uint32_t>(address);
-        slots(space)[static_cast<std::size_t>(address)] = slot;
+        slots(space)[address] = slot;
     }
 }
 

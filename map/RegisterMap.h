@@ -1,14 +1,10 @@
 #pragma once
 
-#include "map/RegisterEntry.h"
-#include "map/RegisterSpace.h"
+#include "map/RegisterSlots.h"
 
 #include <array>
 #include <memory>
 #include <vector>
-
-/// The slots of one space, indexed by address.
-using RegisterSlots = std::array<RegisterEntry, registersPerSpace>;
 
 /// Which slots of the current space the map grid shows.
 enum class ViewMode : int
@@ -77,8 +73,3 @@ private:
     std::unique_ptr<Spaces> spaces;
     std::unique_ptr<Spaces> snapshot;
 };
-
-/// Frees the slots `first`..`first + count - 1` of a space, as far as they lie in it.
-/// @param first  0..65535
-/// @param count  registers, up to 4294967295; costs no more than the space is long
-void clearSlots(RegisterSlots& slots, int first, std::uint32_t count);

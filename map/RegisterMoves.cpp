@@ -1,7 +1,5 @@
 #include "map/RegisterMoves.h"
 
-#include "map/SlotAccess.h"
-
 #include <algorithm>
 
 namespace
@@ -24,10 +22,10 @@ public:
 
     bool move(int address, std::vector<int>& changed)
     {
-        if (!isAddress(address) || slotAt(slots, address).locked)
+        if (!RegisterSlots::contains(address) || slots[address].locked)
             return false;
         const int end = endOfRun(address);
-        if (!isAddress(end) || slotAt(slots, end).locked || slotAt(slots, end).used)
+        if (!RegisterSlots::contains(end) || slots[end].locked || slots[end].used)
         {
             markStuck(address, end);
             return false;
@@ -41,14 +39,14 @@ private:
     int endOfRun(int address) const
     {
         int end = address + step;
-        while (shoving && isAddress(end) && mayBePushed(end))
+        while (shoving && RegisterSlots::contains(end) && mayBePushed(end))
             end += step;
         return end;
     }
 
     bool mayBePushed(int address) const
     {
-        const RegisterEntry& slot = slotAt(slots, address);
+        const RegisterEntry& slot = slots[address];
         return slot.used && !slot.locked && !stuck[static_cast<std::size_t>(address)];
     }
 
@@ -62,10 +60,10 @@ private:
     {
         for (int place = freePlace; place != first; place -= step)
         {
-            slotAt(slots, place) = shifted(slotAt(slots, place - step), static_cast<std::uint32_t>(step));
+            slots[place] = shifted(slots[place - step], static_cast<std::uint32_t>(step));
             changed.push_back(place);
         }
-        slotAt(slots, first).used = false;
+        slots[first].used = false;
     }
 
     RegisterSlots& slots;

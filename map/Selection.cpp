@@ -1,7 +1,5 @@
 #include "map/Selection.h"
 
-#include "map/SlotAccess.h"
-
 #include <algorithm>
 
 namespace
@@ -19,9 +17,9 @@ std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const in
     {
         if (addresses.size() > longestSelection - registersPerSpace)
             break;
-        if (!isAddress(row) || !isHead(slotAt(slots, row)))
+        if (!RegisterSlots::contains(row) || !isHead(slots[row]))
             continue;
-        const std::int64_t behind = std::int64_t{row} + registersTaken(slotAt(slots, row));
+        const std::int64_t behind = std::int64_t{row} + registersTaken(slots[row]);
         const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
         for (int address = row; address < end; ++address)
             addresses.push_back(address);

@@ -1,7 +1,5 @@
 #include "map/TagnameReplace.h"
 
-#include "map/SlotAccess.h"
-
 #include <vector>
 
 namespace
@@ -81,13 +79,13 @@ void replaceInTagnames(RegisterSlots& slots, std::span<const int> addresses, std
     int previous = -1;
     for (const int address : addresses)
     {
-        if (!isAddress(address) || slotAt(slots, address).locked)
+        if (!RegisterSlots::contains(address) || slots[address].locked)
             continue;
         // A slot that is listed again goes on from what it was renamed to.
         if (address <= previous)
             renamer.finish();
         previous = address;
-        renamer.rename(slotAt(slots, address).tagname);
+        renamer.rename(slots[address].tagname);
     }
     renamer.finish();
 }

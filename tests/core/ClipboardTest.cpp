@@ -50,10 +50,9 @@ protected:
 TEST_F(Clipboard, CopyTakesEveryFieldOfEverySlotInListOrder)
 {
     drawAt(10, "AAb");
-    slotAt(map.currentSlots(), 11).writeValid = false;
+    map.currentSlots()[11].writeValid = false;
     copyRegisters(map, std::vector{12, 10, 11});
-    EXPECT_EQ(map.clipboard, (std::vector{slotAt(map.currentSlots(), 12), slotAt(map.currentSlots(), 10),
-                                          slotAt(map.currentSlots(), 11)}));
+    EXPECT_EQ(map.clipboard, (std::vector{map.currentSlots()[12], map.currentSlots()[10], map.currentSlots()[11]}));
     EXPECT_EQ(shown(10, 2), "AA with other contents");
 }
 
@@ -179,9 +178,9 @@ TEST_F(Clipboard, PasteOnAnObjectThatBeginsBeforeTheSpaceDoesNothing)
 {
     holdInClipboard("A");
     drawAt(0, "B");
-    slotAt(map.currentSlots(), 0).startAddress = 0xFFFFFFFE;
+    map.currentSlots()[0].startAddress = 0xFFFFFFFE;
     EXPECT_EQ(pasteRegisters(map, 0), PasteResult::NothingToDo);
-    slotAt(map.currentSlots(), 0).startAddress = 65'536;
+    map.currentSlots()[0].startAddress = 65'536;
     EXPECT_EQ(pasteRegisters(map, 0), PasteResult::NothingToDo);
 }
 
@@ -220,12 +219,12 @@ TEST_F(Clipboard, LockedRegistersArePastedLocked)
 TEST_F(Clipboard, PastedRegistersKeepTheirErrorMarks)
 {
     drawAt(10, "A");
-    slotAt(map.currentSlots(), 10).typeValid = false;
-    slotAt(map.currentSlots(), 10).tagIndex = -1;
+    map.currentSlots()[10].typeValid = false;
+    map.currentSlots()[10].tagIndex = -1;
     copyRows({10});
     pasteRegisters(map, 20);
-    EXPECT_FALSE(slotAt(map.currentSlots(), 20).typeValid);
-    EXPECT_EQ(slotAt(map.currentSlots(), 20).tagIndex, -1);
+    EXPECT_FALSE(map.currentSlots()[20].typeValid);
+    EXPECT_EQ(map.currentSlots()[20].tagIndex, -1);
 }
 
 TEST_F(Clipboard, RegistersOfOneSpacePasteIntoAnother)
@@ -248,8 +247,8 @@ TEST_F(Clipboard, ObjectCutOffByTheEndOfTheSpaceIsCopiedAsFarAsItGoes)
     ASSERT_EQ(map.clipboard.size(), 2U);
     EXPECT_EQ(pasteRegisters(map, 65'530), PasteResult::Pasted);
     EXPECT_EQ(pictureOf(map.currentSlots(), 65'530, 6), "AA..AA");
-    EXPECT_EQ(slotAt(map.currentSlots(), 65'531).registerCount, 4U);
-    EXPECT_EQ(slotAt(map.currentSlots(), 65'531).startAddress, 65'530U);
+    EXPECT_EQ(map.currentSlots()[65'531].registerCount, 4U);
+    EXPECT_EQ(map.currentSlots()[65'531].startAddress, 65'530U);
 }
 
 TEST_F(Clipboard, SlotVacatedByAMoveLeadsAPasteToItsOldHeadWhateverStandsThere)
@@ -340,7 +339,7 @@ TEST_F(Clipboard, DeleteMovesNothingAndLeavesTheClipboard)
 TEST_F(Clipboard, DeleteLooksAtTheLockOfTheHeadOnly)
 {
     drawAt(10, "AAA");
-    slotAt(map.currentSlots(), 12).locked = true;
+    map.currentSlots()[12].locked = true;
     eraseRegisters(map, selected({10}));
     EXPECT_EQ(shown(10, 3), "...");
 }
@@ -348,7 +347,7 @@ TEST_F(Clipboard, DeleteLooksAtTheLockOfTheHeadOnly)
 TEST_F(Clipboard, LockedHeadIsKeptWhileItsUnlockedContinuationGoes)
 {
     drawAt(10, "AAA");
-    slotAt(map.currentSlots(), 10).locked = true;
+    map.currentSlots()[10].locked = true;
     eraseRegisters(map, selected({10}));
     EXPECT_EQ(pictureOf(map.currentSlots(), 10, 3), "a..");
 }

@@ -125,7 +125,7 @@ TEST(Compress, SlotVacatedByAMoveIsAGapAndComesOutClean)
 TEST(Compress, UsedSlotWithoutAHeadStaysWhereNoObjectComesToLie)
 {
     const auto slots = drawnSpace(10, ".BB.CC");
-    slotAt(*slots, 11) = freeSlot(11);
+    (*slots)[11] = freeSlot(11);
     EXPECT_EQ(compressRegisters(*slots, std::vector{12, 15}), CompressResult::Compressed);
     EXPECT_EQ(pictureOf(*slots, 10, 6), "..BCC.");
 }
@@ -133,7 +133,7 @@ TEST(Compress, UsedSlotWithoutAHeadStaysWhereNoObjectComesToLie)
 TEST(Compress, UsedSlotWithoutAHeadIsWrittenOver)
 {
     const auto slots = drawnSpace(10, ".BB.CC");
-    slotAt(*slots, 11) = freeSlot(11);
+    (*slots)[11] = freeSlot(11);
     compressRegisters(*slots, std::vector{11, 15});
     EXPECT_EQ(pictureOf(*slots, 10, 6), ".CC...");
     EXPECT_TRUE(looksLike(*slots, 10, ".CC..."));
@@ -145,8 +145,8 @@ TEST(Compress, ObjectCutOffByTheEndOfTheSpaceMovesAsFarAsItIsThere)
     place(*slots, 65'534, registerOf("B", 4));
     EXPECT_EQ(compressRegisters(*slots, std::vector{65'530, 65'535}), CompressResult::Compressed);
     EXPECT_EQ(pictureOf(*slots, 65'530, 6), "ABB...");
-    EXPECT_EQ(slotAt(*slots, 65'532).startAddress, 65'531U);
-    EXPECT_EQ(slotAt(*slots, 65'532).registerCount, 4U);
+    EXPECT_EQ((*slots)[65'532].startAddress, 65'531U);
+    EXPECT_EQ((*slots)[65'532].registerCount, 4U);
 }
 
 TEST(Compress, ObjectReachingBeyondTheRangeMovesWhole)
@@ -159,16 +159,16 @@ TEST(Compress, ObjectReachingBeyondTheRangeMovesWhole)
 TEST(Compress, CountBeyondTheSpaceTakesWhatFollows)
 {
     const auto slots = drawnSpace(65'531, ".AB..");
-    slotAt(*slots, 65'532).registerCount = std::numeric_limits<std::uint32_t>::max();
+    (*slots)[65'532].registerCount = std::numeric_limits<std::uint32_t>::max();
     EXPECT_EQ(compressRegisters(*slots, std::vector{65'531, 65'535}), CompressResult::Compressed);
     EXPECT_EQ(pictureOf(*slots, 65'531, 5), "AB...");
-    EXPECT_EQ(slotAt(*slots, 65'532).startAddress, 65'531U);
+    EXPECT_EQ((*slots)[65'532].startAddress, 65'531U);
 }
 
 TEST(Compress, ObjectOfNoRegistersIsPassedOver)
 {
     const auto slots = drawnSpace(10, ".AB");
-    slotAt(*slots, 11).registerCount = 0;
+    (*slots)[11].registerCount = 0;
     compressRegisters(*slots, std::vector{10, 12});
     EXPECT_EQ(pictureOf(*slots, 10, 3), "BA.");
 }

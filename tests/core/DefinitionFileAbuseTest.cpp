@@ -21,8 +21,8 @@ protected:
         EXPECT_TRUE(loadDefinitionFile(file, map, tags));
         for (const RegisterSpace space : allSpaces)
         {
-            for (std::size_t address = 0; address < registersPerSpace; ++address)
-                ASSERT_EQ(map.slots(space)[address].address, address);
+            for (int address = 0; address < registersPerSpace; ++address)
+                ASSERT_EQ(map.slots(space)[address].address, static_cast<std::uint32_t>(address));
         }
     }
 
@@ -35,7 +35,7 @@ protected:
 
     const RegisterEntry& slot(int address, RegisterSpace space = RegisterSpace::Holding) const
     {
-        return map.slots(space)[static_cast<std::size_t>(address)];
+        return map.slots(space)[address];
     }
 
     TempFolder folder;

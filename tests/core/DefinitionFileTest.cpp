@@ -39,10 +39,7 @@ protected:
         tags.append(tag);
     }
 
-    const RegisterEntry& slot(int address, RegisterSpace space = holding) const
-    {
-        return map.slots(space)[static_cast<std::size_t>(address)];
-    }
+    const RegisterEntry& slot(int address, RegisterSpace space = holding) const { return map.slots(space)[address]; }
 
     int usedSlots() const
     {

@@ -24,10 +24,7 @@ protected:
         return slot(address);
     }
 
-    RegisterEntry& slot(int address, RegisterSpace space = holding)
-    {
-        return map.slots(space)[static_cast<std::size_t>(address)];
-    }
+    RegisterEntry& slot(int address, RegisterSpace space = holding) { return map.slots(space)[address]; }
 
     int usedSlots() const
     {

@@ -30,7 +30,7 @@ protected:
         texts.clear();
         for (const RegisterSpace space : allSpaces)
         {
-            for (std::size_t address = 0; address < registersPerSpace; ++address)
+            for (int address = 0; address < registersPerSpace; ++address)
             {
                 ASSERT_EQ(together.slots(space)[address], oneByOne.slots(space)[address])
                     << spaceDisplayName(static_cast<int>(space)) << ' ' << address;

@@ -125,13 +125,13 @@ private:
                 --address;
         }
         for (int address = stretch.first; address <= stretch.last(); ++address)
-            disturb(slotAt(slots, address));
+            disturb(slots[address]);
         if (chance.happens(50))
             place(slots, lastAddress - chance.pick(0, 2), randomObject());
         for (int address = stretch.first; address <= std::min(stretch.last() + 20, lastAddress); ++address)
-            model.set(space, address, slotAt(slots, address));
+            model.set(space, address, slots[address]);
         for (int address = lastAddress - 10; address <= lastAddress; ++address)
-            model.set(space, address, slotAt(slots, address));
+            model.set(space, address, slots[address]);
     }
 
     void disturb(RegisterEntry& slot)
@@ -163,7 +163,8 @@ private:
         const int count = chance.oneOf({0, 1, 1, 2, 5, 12, 40});
         rows.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
-            rows.push_back(chance.happens(80) && isAddress(first) ? std::min(first + i, lastAddress) : randomAddress());
+            rows.push_back(chance.happens(80) && RegisterSlots::contains(first) ? std::min(first + i, lastAddress)
+                                                                                : randomAddress());
         if (chance.happens(70))
             std::sort(rows.begin(), rows.end());
         return rows;
@@ -304,11 +305,11 @@ private:
                 if (touchedOnly && !model.isTouched(space, page))
                     continue;
                 const int first = page * LiteralModel::pageLength;
-                const RegisterEntry* slots = &slotAt(map.slots(static_cast<RegisterSpace>(space)), first);
+                const RegisterEntry* slots = &map.slots(static_cast<RegisterSpace>(space))[first];
                 if (std::memcmp(slots, &model.at(space, first), LiteralModel::pageLength * sizeof *slots) == 0)
                     continue;
                 int address = first;
-                while (slotAt(map.slots(static_cast<RegisterSpace>(space)), address) == model.at(space, address))
+                while (map.slots(static_cast<RegisterSpace>(space))[address] == model.at(space, address))
                     ++address;
                 return "another slot " + std::to_string(address) + " in space " + std::to_string(space);
             }

@@ -43,9 +43,9 @@ TEST_F(ErrorPurge, ObjectsInErrorGoFromTheCurrentSpace)
 TEST_F(ErrorPurge, EveryKindOfMarkIsEnough)
 {
     draw(holding(), 10, "ABCD");
-    slotAt(holding(), 10).typeValid = false;
-    slotAt(holding(), 11).writeValid = false;
-    slotAt(holding(), 12).tagIndex = -1;
+    holding()[10].typeValid = false;
+    holding()[11].writeValid = false;
+    holding()[12].tagIndex = -1;
     deleteErrorRegisters(map);
     EXPECT_TRUE(looksLike(holding(), 10, "...D"));
 }
@@ -53,7 +53,7 @@ TEST_F(ErrorPurge, EveryKindOfMarkIsEnough)
 TEST_F(ErrorPurge, MarksAreTakenAsTheyStand)
 {
     draw(holding(), 10, "A");
-    slotAt(holding(), 10).tagIndex = 12'345;
+    holding()[10].tagIndex = 12'345;
     deleteErrorRegisters(map);
     EXPECT_EQ(pictureOf(holding(), 10, 1), "A");
 }
@@ -61,10 +61,10 @@ TEST_F(ErrorPurge, MarksAreTakenAsTheyStand)
 TEST_F(ErrorPurge, FreeSlotsAreNotLookedAt)
 {
     draw(holding(), 10, "AA");
-    slotAt(holding(), 10).used = false;
-    slotAt(holding(), 10).typeValid = false;
+    holding()[10].used = false;
+    holding()[10].typeValid = false;
     deleteErrorRegisters(map);
-    EXPECT_EQ(slotAt(holding(), 10).tagname.view(), "A");
+    EXPECT_EQ(holding()[10].tagname.view(), "A");
 }
 
 TEST_F(ErrorPurge, LockedRegistersStayAndStayMarked)
@@ -72,14 +72,14 @@ TEST_F(ErrorPurge, LockedRegistersStayAndStayMarked)
     draw(holding(), 10, "eeE");
     purge();
     EXPECT_EQ(pictureOf(holding(), 10, 3), "ee.");
-    EXPECT_TRUE(hasError(slotAt(holding(), 10)));
-    EXPECT_TRUE(hasError(slotAt(holding(), 11)));
+    EXPECT_TRUE(hasError(holding()[10]));
+    EXPECT_TRUE(hasError(holding()[11]));
 }
 
 TEST_F(ErrorPurge, UnlockedHeadTakesItsLockedContinuationAlong)
 {
     draw(holding(), 10, "EE");
-    slotAt(holding(), 11).locked = true;
+    holding()[11].locked = true;
     purge();
     EXPECT_TRUE(looksLike(holding(), 10, ".."));
 }
@@ -87,7 +87,7 @@ TEST_F(ErrorPurge, UnlockedHeadTakesItsLockedContinuationAlong)
 TEST_F(ErrorPurge, ContinuationInErrorGoesAlone)
 {
     draw(holding(), 10, "AAA");
-    slotAt(holding(), 11).tagname = InternedText("E");
+    holding()[11].tagname = InternedText("E");
     purge();
     EXPECT_EQ(pictureOf(holding(), 10, 3), "A.A");
 }
@@ -145,7 +145,7 @@ TEST_F(ErrorPurge, CountBeyondTheSpaceEndsWithIt)
 {
     draw(coil(), 65'530, "AEBCDE");
     draw(holding(), 65'531, "A");
-    slotAt(holding(), 65'531).registerCount = std::numeric_limits<std::uint32_t>::max();
+    holding()[65'531].registerCount = std::numeric_limits<std::uint32_t>::max();
     purge();
     EXPECT_TRUE(looksLike(coil(), 65'530, "A....."));
     EXPECT_TRUE(looksLike(coil(), 0, "...."));

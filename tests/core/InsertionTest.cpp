@@ -59,8 +59,8 @@ TEST(Insertion, ElementsKeepTheirPlaceInTheirObjectWhereverTheyComeFrom)
     EXPECT_TRUE(looksLike(*slots, 40'000, "AAAA"));
     elements.erase(elements.begin());
     insertRegisters(*slots, elements, 100);
-    EXPECT_EQ(slotAt(*slots, 100).startAddress, 99U);
-    EXPECT_EQ(slotAt(*slots, 100).address, 100U);
+    EXPECT_EQ((*slots)[100].startAddress, 99U);
+    EXPECT_EQ((*slots)[100].address, 100U);
 }
 
 TEST(Insertion, ContinuationInsertedAtTheStartOfTheSpaceWrapsAround)
@@ -68,8 +68,8 @@ TEST(Insertion, ContinuationInsertedAtTheStartOfTheSpaceWrapsAround)
     const auto slots = drawnSpace(0, "");
     const std::vector<RegisterEntry> elements = registersOf("AA");
     insertRegisters(*slots, std::span(elements).subspan(1), 0);
-    EXPECT_EQ(slotAt(*slots, 0).startAddress, std::numeric_limits<std::uint32_t>::max());
-    EXPECT_EQ(slotAt(*slots, 0).address, 0U);
+    EXPECT_EQ((*slots)[0].startAddress, std::numeric_limits<std::uint32_t>::max());
+    EXPECT_EQ((*slots)[0].address, 0U);
 }
 
 TEST(Insertion, FreeElementsReplaceWhatTheyPushAway)
@@ -133,7 +133,7 @@ TEST(Insertion, MoreElementsThanTheSpaceIsLongEndWithIt)
 TEST(Insertion, VacatedSlotsCountAsFree)
 {
     const auto slots = drawnSpace(10, "ABC.");
-    slotAt(*slots, 11).used = false;
+    (*slots)[11].used = false;
     insertRegisters(*slots, registersOf("X"), 10);
     EXPECT_TRUE(looksLike(*slots, 10, "XAC."));
 }
@@ -165,7 +165,7 @@ TEST(Insertion, EqualsInsertingOneSlotAfterAnother)
             slot.startAddress = slot.address - static_cast<std::uint32_t>(chance.pick(0, 3));
             slot.used = !chance.happens(gaps);
             slot.locked = chance.happens(4);
-            slotAt(*slots, address) = slot;
+            (*slots)[address] = slot;
             model.set(model.currentSpace, address, slot);
         }
         model.clipboard = clipboards[static_cast<std::size_t>(chance.pick(0, 4))];
@@ -174,7 +174,7 @@ TEST(Insertion, EqualsInsertingOneSlotAfterAnother)
         model.insertClipboard(target);
         for (int address = first; address < std::min(first + length + 10, registersPerSpace); ++address)
         {
-            ASSERT_EQ(slotAt(*slots, address), model.at(model.currentSpace, address))
+            ASSERT_EQ((*slots)[address], model.at(model.currentSpace, address))
                 << "seed " << seed << ", address " << address;
         }
         clearSlots(*slots, first, length + 10);

@@ -29,7 +29,7 @@ LiteralModel::LiteralModel() : spaces(std::make_unique<std::array<RegisterSlots,
 
 const RegisterEntry& LiteralModel::at(int space, int address) const
 {
-    return spaces->at(static_cast<std::size_t>(space)).at(static_cast<std::size_t>(address));
+    return spaces->at(static_cast<std::size_t>(space))[address];
 }
 
 void LiteralModel::set(int space, int address, const RegisterEntry& slot)
@@ -65,7 +65,7 @@ const RegisterEntry& LiteralModel::current(int address) const
 RegisterEntry& LiteralModel::write(int space, int address)
 {
     touched[static_cast<std::size_t>(space)].set(static_cast<std::size_t>(address / pageLength));
-    return spaces->at(static_cast<std::size_t>(space)).at(static_cast<std::size_t>(address));
+    return spaces->at(static_cast<std::size_t>(space))[address];
 }
 
 RegisterEntry& LiteralModel::writeCurrent(int address)

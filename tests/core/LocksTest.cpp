@@ -26,7 +26,7 @@ TEST(Locks, MixedSelectionSwapsItsStates)
 TEST(Locks, SlotsOfOneObjectAreInvertedEachByItself)
 {
     const auto slots = drawnSpace(10, "AAA");
-    slotAt(*slots, 11).locked = true;
+    (*slots)[11].locked = true;
     toggleLocks(*slots, std::vector{10, 11, 12});
     EXPECT_EQ(pictureOf(*slots, 10, 3), "aAa");
 }

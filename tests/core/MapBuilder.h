@@ -1,7 +1,6 @@
 #pragma once
 
 #include "map/RegisterMap.h"
-#include "map/SlotAccess.h"
 
 #include <cctype>
 #include <memory>
@@ -45,10 +44,10 @@ inline RegisterEntry registerOf(std::string_view name, int count)
 inline void place(RegisterSlots& slots, int start, RegisterEntry entry)
 {
     entry.startAddress = static_cast<std::uint32_t>(start);
-    for (std::uint32_t i = 0; i < entry.registerCount && isAddress(std::int64_t{start} + i); ++i)
+    for (std::uint32_t i = 0; i < entry.registerCount && RegisterSlots::contains(std::int64_t{start} + i); ++i)
     {
         entry.address = entry.startAddress + i;
-        slotAt(slots, static_cast<int>(entry.address)) = entry;
+        slots[static_cast<int>(entry.address)] = entry;
     }
 }
 
@@ -62,7 +61,7 @@ inline void draw(RegisterSlots& slots, int first, std::string_view picture)
         const int address = first + static_cast<int>(begin);
         if (std::isalpha(static_cast<unsigned char>(letter)) == 0)
         {
-            slotAt(slots, address).locked = letter == '#';
+            slots[address].locked = letter == '#';
             ++begin;
             continue;
         }
@@ -79,7 +78,6 @@ inline void draw(RegisterSlots& slots, int first, std::string_view picture)
 inline std::unique_ptr<RegisterSlots> drawnSpace(int first, std::string_view picture)
 {
     auto slots = std::make_unique<RegisterSlots>();
-    clearSlots(*slots, 0, registersPerSpace);
     draw(*slots, first, picture);
     return slots;
 }
@@ -90,7 +88,7 @@ inline std::string pictureOf(const RegisterSlots& slots, int first, int count)
     std::string picture;
     for (int address = first; address < first + count; ++address)
     {
-        const RegisterEntry& slot = slotAt(slots, address);
+        const RegisterEntry& slot = slots[address];
         if (slot.address != static_cast<std::uint32_t>(address))
             picture += '!';
         else if (!slot.used || slot.tagname.empty())
@@ -115,7 +113,7 @@ inline int tornObjectIn(const RegisterSlots& slots, int first, int last)
 {
     for (int address = first; address <= last;)
     {
-        const RegisterEntry& head = slotAt(slots, address);
+        const RegisterEntry& head = slots[address];
         if (!head.used)
         {
             ++address;
@@ -129,8 +127,8 @@ inline int tornObjectIn(const RegisterSlots& slots, int first, int last)
                 return last;
             RegisterEntry expected = head;
             expected.address += i;
-            expected.tagname = slotAt(slots, address).tagname;
-            if (slotAt(slots, address) != expected)
+            expected.tagname = slots[address].tagname;
+            if (slots[address] != expected)
                 return address;
         }
     }

@@ -52,7 +52,7 @@ TEST(MapSnapshot, EverySingleFieldCounts)
     const auto map = savedMap();
     for (const RegisterSpace space : allSpaces)
     {
-        for (const std::size_t address : {0U, 2U, 30000U, 65535U})
+        for (const int address : {0, 2, 30'000, 65'535})
         {
             for (const FieldChange& change : fieldChanges)
             {

@@ -24,7 +24,7 @@ protected:
         map.placeObject(RegisterSpace::Holding, address, entry, count);
     }
 
-    RegisterEntry& slot(int address) { return slots[static_cast<std::size_t>(address)]; }
+    RegisterEntry& slot(int address) { return slots[address]; }
 
     /// The tagnames of `count` slots in one text, "." standing for a free slot.
     std::string picture(int first, int count)
@@ -417,9 +417,9 @@ namespace
 {
 
 /// Pushes one slot a place down, and first whatever is in its way: one register at a time.
-bool pushDown(RegisterSlots& slots, std::size_t address)
+bool pushDown(RegisterSlots& slots, int address)
 {
-    if (address + 1 >= slots.size() || slots[address].locked || slots[address + 1].locked)
+    if (!RegisterSlots::contains(address + 1) || slots[address].locked || slots[address + 1].locked)
         return false;
     if (slots[address + 1].used && !pushDown(slots, address + 1))
         return false;
@@ -433,10 +433,10 @@ bool pushDown(RegisterSlots& slots, std::size_t address)
 /// The placement done register by register, each one pushing away what it finds.
 void placeOneByOne(RegisterSlots& slots, int head, const RegisterEntry& entry)
 {
-    for (std::uint32_t i = 0; i < entry.registerCount; ++i)
+    for (int i = 0; i < static_cast<int>(entry.registerCount); ++i)
     {
-        const std::size_t target = static_cast<std::size_t>(head) + i;
-        if (target >= slots.size() || (slots[target].used && !pushDown(slots, target)))
+        const int target = head + i;
+        if (!RegisterSlots::contains(target) || (slots[target].used && !pushDown(slots, target)))
             return;
         slots[target] = entry;
         slots[target].address = static_cast<std::uint32_t>(target);
@@ -460,7 +460,7 @@ TEST_F(RegisterEdit, AnyPlacementEqualsPlacingRegisterByRegister)
         const int head = *editedHead(slots, first + below(4));
         const int count = 1 + below(8);
         const auto expected = std::make_unique<RegisterSlots>(slots);
-        clearSlots(*expected, head, (*expected)[static_cast<std::size_t>(head)].registerCount);
+        clearSlots(*expected, head, (*expected)[head].registerCount);
         RegisterEntry entry = freeSlot(head);
         entry.used = true;
         entry.type = DataType::String;

@@ -12,7 +12,7 @@ constexpr auto coil = RegisterSpace::Coil;
 
 RegisterEntry& at(RegisterMap& map, RegisterSpace space, int address)
 {
-    return map.slots(space)[static_cast<std::size_t>(address)];
+    return map.slots(space)[address];
 }
 
 /// An entry in which no field has the value of a free slot.
@@ -49,7 +49,7 @@ RegisterEntry doubleNamed(std::string_view name)
 void expectFree(const RegisterMap& map, RegisterSpace space, int first, int last)
 {
     for (int address = first; address <= last; ++address)
-        ASSERT_EQ(map.slots(space)[static_cast<std::size_t>(address)], freeSlot(address)) << address;
+        ASSERT_EQ(map.slots(space)[address], freeSlot(address)) << address;
 }
 
 } // namespace

@@ -130,23 +130,23 @@ TEST(RegisterMoves, NothingMovesIntoALockedFreeSlot)
 TEST(RegisterMoves, MovedRegistersKeepEverythingButTheirAddresses)
 {
     const auto slots = drawnSpace(10, "AA.");
-    slotAt(*slots, 10).typeValid = false;
-    slotAt(*slots, 10).tagIndex = -1;
-    RegisterEntry expected = slotAt(*slots, 10);
+    (*slots)[10].typeValid = false;
+    (*slots)[10].tagIndex = -1;
+    RegisterEntry expected = (*slots)[10];
     expected.startAddress = 11;
     expected.address = 11;
     move(*slots, {10, 11}, MoveDirection::Down, plain);
-    EXPECT_EQ(slotAt(*slots, 11), expected);
-    EXPECT_EQ(slotAt(*slots, 12).startAddress, 11U);
+    EXPECT_EQ((*slots)[11], expected);
+    EXPECT_EQ((*slots)[12].startAddress, 11U);
 }
 
 TEST(RegisterMoves, VacatedSlotOnlyStopsBeingUsed)
 {
     const auto slots = drawnSpace(10, "AA.");
-    RegisterEntry expected = slotAt(*slots, 10);
+    RegisterEntry expected = (*slots)[10];
     expected.used = false;
     move(*slots, {10, 11}, MoveDirection::Down, plain);
-    EXPECT_EQ(slotAt(*slots, 10), expected);
+    EXPECT_EQ((*slots)[10], expected);
 }
 
 TEST(RegisterMoves, MoveThereAndBackLeavesTheVacatedSlotBehind)
@@ -155,8 +155,8 @@ TEST(RegisterMoves, MoveThereAndBackLeavesTheVacatedSlotBehind)
     move(*slots, {10}, MoveDirection::Down, plain);
     move(*slots, {11}, MoveDirection::Up, plain);
     EXPECT_TRUE(looksLike(*slots, 10, "A"));
-    EXPECT_FALSE(slotAt(*slots, 11).used);
-    EXPECT_EQ(slotAt(*slots, 11).tagname.view(), "A");
+    EXPECT_FALSE((*slots)[11].used);
+    EXPECT_EQ((*slots)[11].tagname.view(), "A");
 }
 
 TEST(RegisterMoves, AddressesOutsideTheSpaceStay)
@@ -193,11 +193,11 @@ TEST(RegisterMoves, FreeSlotMovesAsItStandsAndMakesAGap)
 TEST(RegisterMoves, StartAddressBelowZeroWrapsAround)
 {
     const auto slots = drawnSpace(0, "A.");
-    slotAt(*slots, 0).startAddress = std::numeric_limits<std::uint32_t>::max();
+    (*slots)[0].startAddress = std::numeric_limits<std::uint32_t>::max();
     move(*slots, {0}, MoveDirection::Down, plain);
-    EXPECT_EQ(slotAt(*slots, 1).startAddress, 0U);
+    EXPECT_EQ((*slots)[1].startAddress, 0U);
     move(*slots, {1}, MoveDirection::Up, plain);
-    EXPECT_EQ(slotAt(*slots, 0).startAddress, std::numeric_limits<std::uint32_t>::max());
+    EXPECT_EQ((*slots)[0].startAddress, std::numeric_limits<std::uint32_t>::max());
 }
 
 TEST(RegisterMoves, ListOutOfOrderBlocksItself)
@@ -242,8 +242,8 @@ TEST(RegisterMoves, LongRunIsShovedWithoutDeepCalls)
     EXPECT_EQ(changed.size(), 65'535U);
     EXPECT_EQ(changed.front(), 65'535);
     EXPECT_EQ(changed.back(), 1);
-    EXPECT_FALSE(slotAt(*slots, 0).used);
-    EXPECT_EQ(slotAt(*slots, 65'535).startAddress, 1U);
+    EXPECT_FALSE((*slots)[0].used);
+    EXPECT_EQ((*slots)[65'535].startAddress, 1U);
 }
 
 TEST(RegisterMoves, LargeSelectionBeforeALockedRunStays)

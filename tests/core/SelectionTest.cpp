@@ -56,14 +56,14 @@ TEST(Selection, ObjectCutOffByTheEndOfTheSpaceEndsThere)
 TEST(Selection, LargestPossibleCountEndsWithTheSpace)
 {
     const auto slots = drawnSpace(65'530, "A");
-    slotAt(*slots, 65'530).registerCount = std::numeric_limits<std::uint32_t>::max();
+    (*slots)[65'530].registerCount = std::numeric_limits<std::uint32_t>::max();
     EXPECT_EQ(select(*slots, {65'530}), (std::vector{65'530, 65'531, 65'532, 65'533, 65'534, 65'535}));
 }
 
 TEST(Selection, ObjectOfNoRegistersAddsNothing)
 {
     const auto slots = drawnSpace(10, "A");
-    slotAt(*slots, 10).registerCount = 0;
+    (*slots)[10].registerCount = 0;
     EXPECT_TRUE(select(*slots, {10}).empty());
 }
 

@@ -21,7 +21,7 @@ std::unique_ptr<RegisterSlots> named(const std::vector<std::string>& names)
 
 std::string_view nameAt(const RegisterSlots& slots, int address)
 {
-    return slotAt(slots, address).tagname.view();
+    return slots[address].tagname.view();
 }
 
 } // namespace
@@ -73,10 +73,10 @@ TEST(TagnameReplace, ListedTagnamesAreRenamed)
 TEST(TagnameReplace, OnlyTheTagnameChanges)
 {
     const auto slots = named({"about"});
-    RegisterEntry expected = slotAt(*slots, 10);
+    RegisterEntry expected = (*slots)[10];
     expected.tagname = InternedText("abort");
     replaceInTagnames(*slots, std::vector{10}, "u", "r");
-    EXPECT_EQ(slotAt(*slots, 10), expected);
+    EXPECT_EQ((*slots)[10], expected);
 }
 
 TEST(TagnameReplace, HeadListedAloneLeavesItsContinuationSlots)
@@ -99,10 +99,10 @@ TEST(TagnameReplace, LockedSlotKeepsItsNameWhileOthersChange)
 TEST(TagnameReplace, FreeSlotsWithOldTextChangeToo)
 {
     const auto slots = drawnSpace(10, "A.");
-    slotAt(*slots, 10).used = false;
+    (*slots)[10].used = false;
     replaceInTagnames(*slots, std::vector{10, 11}, "A", "B");
     EXPECT_EQ(nameAt(*slots, 10), "B");
-    EXPECT_EQ(slotAt(*slots, 11), freeSlot(11));
+    EXPECT_EQ((*slots)[11], freeSlot(11));
 }
 
 TEST(TagnameReplace, EmptyFindTextChangesNothing)
@@ -134,7 +134,7 @@ TEST(TagnameReplace, NameMayBecomeEmpty)
 {
     const auto slots = drawnSpace(10, "A");
     replaceInTagnames(*slots, std::vector{10}, "A", "");
-    EXPECT_TRUE(slotAt(*slots, 10).tagname.empty());
+    EXPECT_TRUE((*slots)[10].tagname.empty());
 }
 
 TEST(TagnameReplace, TextBeyondAsciiIsTakenAsItIs)

@@ -59,9 +59,9 @@ EditedRegister edited(std::string_view typeName, std::int32_t registerCount)
 TEST_F(VacatedSlot, KeepsTheFieldsOfTheObjectThatLeftIt)
 {
     EXPECT_EQ(picture(), ".aaB..");
-    EXPECT_FALSE(slotAt(slots, 10).used);
-    EXPECT_EQ(slotAt(slots, 10).registerCount, 2U);
-    EXPECT_EQ(slotAt(slots, 10).tagname.view(), "A");
+    EXPECT_FALSE(slots[10].used);
+    EXPECT_EQ(slots[10].registerCount, 2U);
+    EXPECT_EQ(slots[10].tagname.view(), "A");
 }
 
 TEST_F(VacatedSlot, SelectionTakesOneAddressOfAVacatedHead)
@@ -71,7 +71,7 @@ TEST_F(VacatedSlot, SelectionTakesOneAddressOfAVacatedHead)
 
 TEST_F(VacatedSlot, SelectionTakesOneAddressThoughNoCountWasLeft)
 {
-    slotAt(slots, 10).registerCount = 0;
+    slots[10].registerCount = 0;
     EXPECT_EQ(selected(10), std::vector{10});
 }
 
@@ -83,23 +83,23 @@ TEST_F(VacatedSlot, SelectionTakesNothingOfAVacatedContinuation)
 TEST_F(VacatedSlot, DeleteClearsItAndNothingAfterIt)
 {
     eraseRegisters(map, selected(10));
-    EXPECT_EQ(slotAt(slots, 10), freeSlot(10));
+    EXPECT_EQ(slots[10], freeSlot(10));
     EXPECT_EQ(picture(), ".aaB..");
 }
 
 TEST_F(VacatedSlot, CutTakesOneRegisterAndNothingAfterIt)
 {
-    const RegisterEntry vacated = slotAt(slots, 10);
+    const RegisterEntry vacated = slots[10];
     cutRegisters(map, selected(10));
     EXPECT_EQ(map.clipboard, std::vector{vacated});
-    EXPECT_EQ(slotAt(slots, 10), freeSlot(10));
+    EXPECT_EQ(slots[10], freeSlot(10));
     EXPECT_EQ(picture(), ".aaB..");
 }
 
 TEST_F(VacatedSlot, CopyTakesOneRegister)
 {
     copyRegisters(map, selected(10));
-    EXPECT_EQ(map.clipboard, std::vector{slotAt(slots, 10)});
+    EXPECT_EQ(map.clipboard, std::vector{slots[10]});
     EXPECT_FALSE(map.isModified());
 }
 
@@ -129,7 +129,7 @@ TEST_F(VacatedSlot, CompressEndsItsRangeThere)
 TEST_F(VacatedSlot, ReplaceChangesItsTextAlone)
 {
     replaceInTagnames(slots, std::vector{10}, "A", "X");
-    EXPECT_EQ(slotAt(slots, 10).tagname.view(), "X");
+    EXPECT_EQ(slots[10].tagname.view(), "X");
     EXPECT_EQ(picture(), ".aaB..");
 }
 
@@ -189,7 +189,7 @@ TEST_F(VacatedSlot, PurgeOfAnotherSpaceClearsOneSlotThere)
 {
     RegisterSlots& coil = map.slots(RegisterSpace::Coil);
     draw(coil, 10, "EFF");
-    slotAt(coil, 10).typeValid = false;
+    coil[10].typeValid = false;
     deleteErrorRegisters(map);
     EXPECT_TRUE(looksLike(coil, 10, ".FF"));
     EXPECT_EQ(picture(), ".aaB..");
@@ -199,10 +199,10 @@ TEST_F(VacatedSlot, PurgeOfAnotherSpaceClearsTheSlotThereUnderAVacatedContinuati
 {
     RegisterSlots& coil = map.slots(RegisterSpace::Coil);
     const int address = vacateContinuation();
-    const RegisterEntry vacated = slotAt(slots, address);
+    const RegisterEntry vacated = slots[address];
     draw(coil, address, "EF");
-    slotAt(coil, address).typeValid = false;
+    coil[address].typeValid = false;
     deleteErrorRegisters(map);
     EXPECT_TRUE(looksLike(coil, address, ".F"));
-    EXPECT_EQ(slotAt(slots, address), vacated);
+    EXPECT_EQ(slots[address], vacated);
 }

@@ -209,7 +209,7 @@ TEST_F(Validation, EverySlotOfEverySpaceIsLookedAt)
     validateMap(map, tags);
     for (const RegisterSpace space : allSpaces)
     {
-        for (const std::size_t address : {0U, 3U, 65534U, 65535U})
+        for (const int address : {0, 3, 65'534, 65'535})
             EXPECT_EQ(map.slots(space)[address].tagIndex, 0);
     }
     EXPECT_EQ(countErrors(map), 0);

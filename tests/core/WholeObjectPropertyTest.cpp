@@ -67,7 +67,7 @@ public:
         for (int address = first; address <= last; ++address)
         {
             const RegisterEntry& old = before[static_cast<std::size_t>(address - first)];
-            if (old.locked && address != appendedAt && slotAt(map.currentSlots(), address) != old)
+            if (old.locked && address != appendedAt && map.currentSlots()[address] != old)
                 return address;
         }
         return -1;
@@ -118,7 +118,7 @@ private:
             }
             else
             {
-                slotAt(map.currentSlots(), address++).locked = chance.happens(10);
+                map.currentSlots()[address++].locked = chance.happens(10);
             }
         }
     }
@@ -145,7 +145,7 @@ private:
         const int end = last == lastAddress ? last : last - margin * 2;
         for (int address = begin; address <= end; ++address)
         {
-            const RegisterEntry& slot = slotAt(map.currentSlots(), address);
+            const RegisterEntry& slot = map.currentSlots()[address];
             if (!slot.used || isHead(slot))
                 rows.push_back(address);
         }
@@ -171,7 +171,7 @@ private:
     {
         const int any = chance.pick(0, static_cast<int>(rows.size()) - 1);
         int index = any;
-        while (index > 0 && !slotAt(map.currentSlots(), rows[static_cast<std::size_t>(index)]).used)
+        while (index > 0 && !map.currentSlots()[rows[static_cast<std::size_t>(index)]].used)
             --index;
         return chance.happens(80) ? std::max(index - chance.pick(0, 30), 0) : any;
     }
@@ -186,11 +186,11 @@ private:
     void appendWithRoom(int row)
     {
         const RegisterSlots& slots = map.currentSlots();
-        while (row <= last && slotAt(slots, row).used)
+        while (row <= last && slots[row].used)
             ++row;
         std::size_t room = 1;
-        for (int address = row + 1; address <= last && !slotAt(slots, address).locked; ++address)
-            room += slotAt(slots, address).used ? 0 : 1;
+        for (int address = row + 1; address <= last && !slots[address].locked; ++address)
+            room += slots[address].used ? 0 : 1;
         if (map.clipboard.size() > room)
             return;
         appendRegisters(map, row);
@@ -201,9 +201,9 @@ private:
     /// paste would go between the registers of that object.
     void pasteBesideObjects(int row)
     {
-        const RegisterEntry& slot = slotAt(map.currentSlots(), row);
+        const RegisterEntry& slot = map.currentSlots()[row];
         const auto target = static_cast<int>(slot.startAddress - slot.address) + row;
-        const RegisterEntry& pushed = slotAt(map.currentSlots(), target);
+        const RegisterEntry& pushed = map.currentSlots()[target];
         if (!pushed.used || isHead(pushed))
             pasteRegisters(map, row);
     }

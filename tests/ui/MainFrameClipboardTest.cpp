@@ -1,6 +1,5 @@
 // Cut, copy, paste, append and delete: by keys, by buttons and from the map grid's menu.
 
-#include "map/SlotAccess.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
@@ -56,7 +55,7 @@ void copyRow(EditorWindow& editor, int row, std::size_t registers)
 
 const RegisterEntry& holding(EditorWindow& editor, int address)
 {
-    return slotAt(editor.registerMap().slots(RegisterSpace::Holding), address);
+    return editor.registerMap().slots(RegisterSpace::Holding)[address];
 }
 
 /// Takes an entry of the map grid's menu, opened over the first selected row or beside all rows.
@@ -253,9 +252,9 @@ TEST(MainFrameClipboard, PasteFromOneSpaceIntoAnEmptyOneLandsAtItsFirstRegister)
     EXPECT_EQ(editor.cell(0, 2), "PUMP_SPEED");
     EXPECT_EQ(editor.cell(0, 3), "FLOAT");
     const RegisterSlots& input = editor.registerMap().slots(RegisterSpace::Input);
-    EXPECT_TRUE(slotAt(input, 1).used);
-    EXPECT_EQ(slotAt(input, 1).startAddress, 0U);
-    EXPECT_FALSE(slotAt(input, 2).used);
+    EXPECT_TRUE(input[1].used);
+    EXPECT_EQ(input[1].startAddress, 0U);
+    EXPECT_FALSE(input[2].used);
     EXPECT_TRUE(holding(editor, 101).used);
 }
 

@@ -1,4 +1,3 @@
-#include "map/SlotAccess.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 #include "ui/RegisterEditor.h"
@@ -64,7 +63,7 @@ void chooseType(RegisterEditor& dialog, const std::string& name)
 
 const RegisterEntry& holding(EditorWindow& editor, int address)
 {
-    return slotAt(editor.registerMap().slots(RegisterSpace::Holding), address);
+    return editor.registerMap().slots(RegisterSpace::Holding)[address];
 }
 
 /// Copies a tag of the database into an empty map and answers what the new row shows as its byte order.

@@ -1,6 +1,5 @@
 // Move, shove, compress, lock and purge: by keys and by buttons.
 
-#include "map/SlotAccess.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
@@ -46,7 +45,7 @@ bool waitForSelection(const EditorWindow& editor, const std::vector<int>& rows)
 
 const RegisterEntry& holding(EditorWindow& editor, int address)
 {
-    return slotAt(editor.registerMap().slots(RegisterSpace::Holding), address);
+    return editor.registerMap().slots(RegisterSpace::Holding)[address];
 }
 
 /// Goes from the view that the window opens with to the one that shows every address.
@@ -283,7 +282,7 @@ TEST(MainFrameMoving, PurgeAfterYesDeletesTheErrorsOfEverySpaceButNotTheLockedOn
     EXPECT_EQ(answer.count(), 1);
     EXPECT_EQ(answer.lastMessage(),
               "This will delete all registers that contain an error.\nAre you sure you want to continue?");
-    EXPECT_FALSE(slotAt(editor.registerMap().slots(RegisterSpace::Coil), 7).used);
+    EXPECT_FALSE(editor.registerMap().slots(RegisterSpace::Coil)[7].used);
     EXPECT_EQ(editor.cell(1, 2), "GONE");
 }
 

@@ -1,4 +1,3 @@
-#include "map/SlotAccess.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 #include "ui/NamedImages.h"
@@ -174,7 +173,7 @@ TEST(MainFrame, MapChangedAndChangedBackLeavesWithoutAQuestion)
     const PlantFiles files(definition);
     EditorWindow* const editor = openEditor(files.startup());
     editor->clickMapRow(0);
-    const RegisterEntry& slot = slotAt(editor->registerMap().currentSlots(), 100);
+    const RegisterEntry& slot = editor->registerMap().currentSlots()[100];
     clickOn(*editor->button("Toggle register lock"));
     EXPECT_TRUE(waitUntil([&] { return slot.locked; }));
     EXPECT_TRUE(editor->registerMap().isModified());

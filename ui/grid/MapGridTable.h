@@ -24,7 +24,7 @@ protected:
     wxString noteOfKey(int address, int column) const override;
 
 private:
-    const RegisterEntry& slotAt(int address) const { return map.currentSlots()[static_cast<std::size_t>(address)]; }
+    const RegisterEntry& slotAt(int address) const { return map.currentSlots()[address]; }
 
     const RegisterMap& map;
 };
