@@ -1,10 +1,12 @@
 #include "files/posix/AccessRights.h"
 
-bool takeOverAccess(FileSystemCalls& calls, int descriptor, const struct stat& old)
+#include "files/posix/Attributes.h"
+
+bool takeOverAccess(FileSystemCalls& calls, int descriptor, const OldFile& old)
 {
-    const bool ownerKept = calls.fchown(descriptor, old.st_uid, old.st_gid) == 0;
-    if (!ownerKept && calls.fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) != 0)
+    const bool ownerKept = calls.fchown(descriptor, old.state.st_uid, old.state.st_gid) == 0;
+    if (!ownerKept && calls.fchown(descriptor, static_cast<uid_t>(-1), old.state.st_gid) != 0)
         return false;
-    const mode_t wanted = old.st_mode & (ownerKept ? 07777U : 0777U);
-    return calls.fchmod(descriptor, wanted) == 0;
+    const mode_t wanted = old.state.st_mode & (ownerKept ? 07777U : 0777U);
+    return takeOverAttributes(calls, old.descriptor, descriptor) && calls.fchmod(descriptor, wanted) == 0;
 }

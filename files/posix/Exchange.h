@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/posix/AccessRights.h"
 #include "files/posix/FileSystemCalls.h"
 
 #include <filesystem>
@@ -15,7 +16,7 @@ enum class Exchange
 
 /// Writes `bytes` into a fresh file beside `target`, flushes it to the disk and lets it take the name in one step.
 /// @param target  no symbolic link
-/// @param old     what the file to be replaced is like; null when there is none
+/// @param old     the file to be replaced; null when there is none
 /// @return anything but Done: the target is as it was and no other file was left
-Exchange exchangeFile(FileSystemCalls& calls, const std::filesystem::path& target, const struct stat* old,
+Exchange exchangeFile(FileSystemCalls& calls, const std::filesystem::path& target, const OldFile* old,
                       std::string_view bytes);

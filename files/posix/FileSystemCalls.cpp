@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 int FileSystemCalls::open(const char* path, int flags, mode_t mode)
@@ -12,6 +14,16 @@ int FileSystemCalls::open(const char* path, int flags, mode_t mode)
 int FileSystemCalls::close(int descriptor)
 {
     return ::close(descriptor);
+}
+
+int FileSystemCalls::flock(int descriptor, int operation)
+{
+    return ::flock(descriptor, operation);
+}
+
+int FileSystemCalls::stat(const char* path, struct stat* state)
+{
+    return ::stat(path, state);
 }
 
 int FileSystemCalls::fstat(int descriptor, struct stat* state)
@@ -57,6 +69,31 @@ int FileSystemCalls::fchown(int descriptor, uid_t owner, gid_t group)
 int FileSystemCalls::fchmod(int descriptor, mode_t mode)
 {
     return ::fchmod(descriptor, mode);
+}
+
+ssize_t FileSystemCalls::flistxattr(int descriptor, char* names, std::size_t size)
+{
+    return ::flistxattr(descriptor, names, size);
+}
+
+ssize_t FileSystemCalls::fgetxattr(int descriptor, const char* name, void* value, std::size_t size)
+{
+    return ::fgetxattr(descriptor, name, value, size);
+}
+
+int FileSystemCalls::fsetxattr(int descriptor, const char* name, const void* value, std::size_t size, int flags)
+{
+    return ::fsetxattr(descriptor, name, value, size, flags);
+}
+
+int FileSystemCalls::fremovexattr(int descriptor, const char* name)
+{
+    return ::fremovexattr(descriptor, name);
+}
+
+int FileSystemCalls::linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags)
+{
+    return ::linkat(fromFolder, from, toFolder, to, flags);
 }
 
 int FileSystemCalls::rename(const char* from, const char* to)

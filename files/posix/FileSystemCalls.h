@@ -18,6 +18,8 @@ public:
 
     virtual int open(const char* path, int flags, mode_t mode);
     virtual int close(int descriptor);
+    virtual int flock(int descriptor, int operation);
+    virtual int stat(const char* path, struct stat* state);
     virtual int fstat(int descriptor, struct stat* state);
     virtual ssize_t readlink(const char* path, char* target, std::size_t size);
     virtual ssize_t pread(int descriptor, void* bytes, std::size_t size, off_t offset);
@@ -28,6 +30,11 @@ public:
     virtual int posixFallocate(int descriptor, off_t offset, off_t size);
     virtual int fchown(int descriptor, uid_t owner, gid_t group);
     virtual int fchmod(int descriptor, mode_t mode);
+    virtual ssize_t flistxattr(int descriptor, char* names, std::size_t size);
+    virtual ssize_t fgetxattr(int descriptor, const char* name, void* value, std::size_t size);
+    virtual int fsetxattr(int descriptor, const char* name, const void* value, std::size_t size, int flags);
+    virtual int fremovexattr(int descriptor, const char* name);
+    virtual int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags);
     virtual int rename(const char* from, const char* to);
     virtual int unlink(const char* path);
 };

@@ -1,9 +1,11 @@
 #include "files/posix/SafeWrite.h"
 
 #include "files/posix/Exchange.h"
+#include "files/posix/FileSizeSignal.h"
 #include "files/posix/LinkedFile.h"
 #include "files/posix/OpenFile.h"
 #include "files/posix/RewriteInPlace.h"
+#include "files/posix/Strays.h"
 
 #include <cerrno>
 #include <new>
@@ -17,21 +19,34 @@ namespace
 /// Opens nothing but what may be written; a pipe or a terminal is opened without waiting or becoming ours.
 constexpr int existing = O_NONBLOCK | O_NOCTTY;
 
-Exchange exchangeLinkedFile(FileSystemCalls& calls, const fs::path& path, const struct stat* old,
-                            std::string_view bytes)
+/// @param old  the file to be replaced; null when there is none
+Exchange exchangeLinkedFile(FileSystemCalls& calls, const fs::path& path, const OldFile* old, std::string_view bytes)
 {
     const std::optional<fs::path> target = linkedFile(calls, path);
-    return target ? exchangeFile(calls, *target, old, bytes) : Exchange::Refused;
+    if (!target)
+        return Exchange::Refused;
+    clearStrays(calls, *target);
+    const bool hasOtherNames = old != nullptr && old->state.st_nlink > 1;
+    return hasOtherNames ? Exchange::Refused : exchangeFile(calls, *target, old, bytes);
 }
 
-bool replaceContents(FileSystemCalls& calls, const fs::path& path, int old, std::string_view bytes)
+/// False when the name has gone, or leads to another file now.
+bool stillLeadsTo(FileSystemCalls& calls, const fs::path& path, const struct stat& file)
 {
-    struct stat state = {};
-    if (calls.fstat(old, &state) != 0 || !S_ISREG(state.st_mode))
+    struct stat now = {};
+    if (calls.stat(path.c_str(), &now) != 0)
+        return errno != ENOENT;
+    return now.st_dev == file.st_dev && now.st_ino == file.st_ino;
+}
+
+bool replaceContents(FileSystemCalls& calls, const fs::path& path, int descriptor, std::string_view bytes)
+{
+    OldFile old{descriptor, {}};
+    if (calls.fstat(descriptor, &old.state) != 0 || !S_ISREG(old.state.st_mode))
         return false;
-    const Exchange exchange = exchangeLinkedFile(calls, path, &state, bytes);
+    const Exchange exchange = exchangeLinkedFile(calls, path, &old, bytes);
     if (exchange == Exchange::Refused)
-        return rewriteInPlace(calls, old, bytes);
+        return rewriteInPlace(calls, descriptor, bytes) && stillLeadsTo(calls, path, old.state);
     return exchange == Exchange::Done;
 }
 
@@ -40,6 +55,7 @@ bool replaceContents(FileSystemCalls& calls, const fs::path& path, int old, std:
 bool writeFileSafely(const fs::path& path, std::string_view bytes, FileSystemCalls& calls)
 try
 {
+    const FileSizeSignalHeld held;
     const OpenFile old(calls, path, O_RDWR | existing);
     if (old.isOpen())
         return replaceContents(calls, path, old.get(), bytes);

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <fcntl.h>
+#include <functional>
 #include <limits>
 #include <map>
 #include <string>
@@ -26,19 +27,33 @@ public:
     /// No single call writes more bytes than this.
     std::size_t longestWrite = std::numeric_limits<std::size_t>::max();
 
-    /// The names of all calls in their order. Some tell more: "open fresh" makes a file, "fsync file" and
-    /// "fsync folder" tell what is flushed.
+    /// Told of every call before it is made, whether it is to fail or not.
+    std::function<void(const std::string& call)> onCall = [](const std::string&) {};
+
+    /// The names of all calls in their order. Some tell more: "open unnamed" and "open named" make a file,
+    /// "fsync file" and "fsync folder" tell what is flushed.
     std::vector<std::string> made;
 
     int open(const char* path, int flags, mode_t mode) override
     {
-        return fails((flags & O_CREAT) != 0 ? "open fresh" : "open") ? -1 : FileSystemCalls::open(path, flags, mode);
+        const bool unnamed = (flags & O_TMPFILE) == O_TMPFILE;
+        const bool named = (flags & O_CREAT) != 0;
+        const char* const name = unnamed ? "open unnamed" : named ? "open named" : "open";
+        return fails(name) ? -1 : FileSystemCalls::open(path, flags, mode);
     }
     int close(int descriptor) override
     {
         const bool failing = fails("close"); // the system's own leaves the file closed even then
         const int result = FileSystemCalls::close(descriptor);
         return failing ? -1 : result;
+    }
+    int flock(int descriptor, int operation) override
+    {
+        return fails("flock") ? -1 : FileSystemCalls::flock(descriptor, operation);
+    }
+    int stat(const char* path, struct stat* state) override
+    {
+        return fails("stat") ? -1 : FileSystemCalls::stat(path, state);
     }
     int fstat(int descriptor, struct stat* state) override
     {
@@ -76,16 +91,38 @@ public:
     {
         return fails("fchmod") ? -1 : FileSystemCalls::fchmod(descriptor, mode);
     }
+    ssize_t flistxattr(int descriptor, char* names, std::size_t size) override
+    {
+        return fails("flistxattr") ? -1 : FileSystemCalls::flistxattr(descriptor, names, size);
+    }
+    ssize_t fgetxattr(int descriptor, const char* name, void* value, std::size_t size) override
+    {
+        return fails("fgetxattr") ? -1 : FileSystemCalls::fgetxattr(descriptor, name, value, size);
+    }
+    int fsetxattr(int descriptor, const char* name, const void* value, std::size_t size, int flags) override
+    {
+        return fails("fsetxattr") ? -1 : FileSystemCalls::fsetxattr(descriptor, name, value, size, flags);
+    }
+    int fremovexattr(int descriptor, const char* name) override
+    {
+        return fails("fremovexattr") ? -1 : FileSystemCalls::fremovexattr(descriptor, name);
+    }
+    int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) override
+    {
+        return fails("linkat") ? -1 : FileSystemCalls::linkat(fromFolder, from, toFolder, to, flags);
+    }
     int rename(const char* from, const char* to) override
     {
         return fails("rename") ? -1 : FileSystemCalls::rename(from, to);
     }
     int unlink(const char* path) override { return fails("unlink") ? -1 : FileSystemCalls::unlink(path); }
 
-private:
+protected:
+    /// Notes the call. @return true, with `errno` set, when it is to fail
     bool fails(const char* call)
     {
         made.emplace_back(call);
+        onCall(call);
         const auto always = refused.find(call);
         if (made.size() == failingCall)
             errno = error;
@@ -96,6 +133,7 @@ private:
         return true;
     }
 
+private:
     static bool isFolder(int descriptor)
     {
         struct stat state = {};

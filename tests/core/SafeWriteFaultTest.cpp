@@ -1,8 +1,10 @@
+#include "AccessList.h"
 #include "FaultyCalls.h"
 #include "FileSizeLimit.h"
 #include "MapBuilder.h"
 #include "SafeWriteFixture.h"
 #include "files/posix/SafeWrite.h"
+#include "files/posix/Strays.h"
 #include "map/DefinitionFile.h"
 #include "map/MapExport.h"
 
@@ -40,6 +42,15 @@ protected:
         }
     }
 
+    /// Makes the file with permissions, an access list and an attribute of its own.
+    void makeOldFile() const
+    {
+        folder.write("map.csv", oldText);
+        fs::permissions(file(), fs::perms(0640));
+        setAttribute(file(), accessListName, accessListFor(4711));
+        setAttribute(file(), "user.comment", "boiler house");
+    }
+
     fs::path file() const { return folder / "map.csv"; }
 
     /// What the folder holds, each name with the contents behind it.
@@ -61,6 +72,7 @@ private:
         before();
         auto expected = everything();
         const mode_t oldMode = mode(file());
+        const auto oldAttributes = attributes(file());
         FaultyCalls calls;
         calls.longestWrite = pieceLength;
         calls.refused = refused;
@@ -74,6 +86,7 @@ private:
         EXPECT_EQ(everything(), expected)
             << (written ? "written" : "not written")
             << ", failed: " << (failing <= calls.made.size() ? calls.made[failing - 1] : "none");
+        EXPECT_EQ(attributes(file()), oldAttributes);
         EXPECT_TRUE(oldMode == 0 || mode(file()) == oldMode);
         EXPECT_TRUE(written || failing <= calls.made.size());
         return calls.made.size();
@@ -87,15 +100,53 @@ TEST_F(SafeWriteFaults, NewFileIsWholeOrNotThere)
     failEveryCallOnce(newText, [] {});
 }
 
-TEST_F(SafeWriteFaults, ReplacedFileIsWhollyOldOrWhollyNew)
+TEST_F(SafeWriteFaults, ReplacedFileIsWhollyOldOrWhollyNewAndKeepsItsAttributes)
+{
+    failEveryCallOnce(newText, [this] { makeOldFile(); });
+    failEveryCallOnce("", [this] { makeOldFile(); });
+}
+
+TEST_F(SafeWriteFaults, FileReplacedWithoutUnnamedFilesIsWhollyOldOrWhollyNew)
+{
+    const std::map<std::string, int> refused = {{"open unnamed", EOPNOTSUPP}};
+    failEveryCallOnce(
+        newText, [this] { makeOldFile(); }, refused);
+    failEveryCallOnce(
+        newText, [] {}, refused);
+}
+
+TEST_F(SafeWriteFaults, FileReplacedWhereUnnamedFilesCannotBeNamedIsWhollyOldOrWhollyNew)
+{
+    const std::map<std::string, int> refused = {{"linkat", ENOENT}};
+    failEveryCallOnce(
+        newText, [this] { makeOldFile(); }, refused);
+    failEveryCallOnce(
+        newText, [] {}, refused);
+}
+
+TEST_F(SafeWriteFaults, FileWithMoreNamesThanOneIsWhollyOldOrWhollyNew)
 {
     const auto before = [this]
     {
-        folder.write("map.csv", oldText);
-        fs::permissions(file(), fs::perms(0640));
+        makeOldFile();
+        fs::create_hard_link(file(), folder / "same");
     };
     failEveryCallOnce(newText, before);
-    failEveryCallOnce("", before);
+    failEveryCallOnce("short", before);
+}
+
+TEST_F(SafeWriteFaults, StrayOfAnEarlierWriteDoesNoHarmWhenItCannotBeCleared)
+{
+    const fs::path stray = strayName(file());
+    FaultyCalls calls;
+    for (const char* const call : {"flock", "unlink"})
+    {
+        std::ofstream(stray) << "half of it";
+        calls.refused = {{call, EACCES}};
+        EXPECT_TRUE(writeFileSafely(file(), newText, calls)) << call;
+        EXPECT_TRUE(fs::remove(stray)) << call;
+        EXPECT_EQ(contents(file()), newText) << call;
+    }
 }
 
 TEST_F(SafeWriteFaults, FileBehindALinkIsWhollyOldOrWhollyNew)
@@ -111,15 +162,16 @@ TEST_F(SafeWriteFaults, FileBehindALinkIsWhollyOldOrWhollyNew)
 TEST_F(SafeWriteFaults, FileRewrittenInPlaceIsWhollyOldOrWhollyNew)
 {
     const auto before = [this] { folder.write("map.csv", oldText); };
-    failEveryCallOnce(newText, before, {{"open fresh", EACCES}});
-    failEveryCallOnce("short", before, {{"open fresh", EACCES}});
-    failEveryCallOnce("", before, {{"open fresh", EACCES}});
+    failEveryCallOnce(newText, before, {{"open unnamed", EACCES}, {"open named", EACCES}});
+    failEveryCallOnce("short", before, {{"open unnamed", EACCES}, {"open named", EACCES}});
+    failEveryCallOnce("", before, {{"open unnamed", EACCES}, {"open named", EACCES}});
 }
 
 TEST_F(SafeWriteFaults, FileRewrittenInPlaceWithoutReservedRoomIsWhollyOldOrWhollyNew)
 {
     const auto before = [this] { folder.write("map.csv", oldText); };
-    failEveryCallOnce(newText, before, {{"open fresh", EACCES}, {"posixFallocate", EOPNOTSUPP}});
+    failEveryCallOnce(newText, before,
+                      {{"open unnamed", EACCES}, {"open named", EACCES}, {"posixFallocate", EOPNOTSUPP}});
 }
 
 TEST_F(SafeWriteFaults, DiskThatTakesAFewBytesAtATimeGetsAllOfThem)

@@ -11,13 +11,6 @@ namespace
 class SafeWriteInPlace : public SafeWriteFixture
 {
 protected:
-    /// Tells one file from another that has taken its name.
-    static ino_t identity(const fs::path& path)
-    {
-        struct stat state = {};
-        return stat(path.c_str(), &state) == 0 ? state.st_ino : 0;
-    }
-
     FaultyCalls calls;
 };
 
@@ -37,7 +30,7 @@ TEST_F(SafeWriteInPlace, RefusedMoveRewritesTheFileInPlace)
 
 TEST_F(SafeWriteInPlace, RefusedMoveOfANewFileLeavesNothing)
 {
-    calls.refused["rename"] = EPERM;
+    calls.refused = {{"linkat", EPERM}, {"rename", EPERM}};
     EXPECT_FALSE(writeFileSafely(folder / "map.csv", "new", calls));
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
@@ -75,4 +68,57 @@ TEST_F(SafeWriteInPlace, DiskWithoutRoomForRewritingInPlaceLeavesTheOldFileUntou
     const FileSizeLimit full(1000);
     EXPECT_FALSE(writeFileSafely(path, std::string(5000, 'x'), calls));
     EXPECT_EQ(contents(path), "old text");
+}
+
+TEST_F(SafeWriteInPlace, FileWithMoreNamesThanOneKeepsThemAll)
+{
+    const fs::path path = folder.write("map.csv", "old text");
+    fs::create_hard_link(path, folder / "same");
+    EXPECT_TRUE(writeFileSafely(path, "new"));
+    EXPECT_EQ(contents(folder / "same"), "new");
+    EXPECT_EQ(identity(folder / "same"), identity(path));
+}
+
+TEST_F(SafeWriteInPlace, FileThatVanishesMeanwhileIsNotReportedAsWritten)
+{
+    const fs::path path = folder.write("map.csv", "old text");
+    calls.refused["rename"] = EPERM;
+    calls.onCall = [&](const std::string& call)
+    {
+        if (call == "ftruncate")
+            fs::remove(path);
+    };
+    EXPECT_FALSE(writeFileSafely(path, "new", calls));
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(SafeWriteInPlace, FileThatIsReplacedMeanwhileIsNotReportedAsWritten)
+{
+    const fs::path path = folder.write("map.csv", "old text");
+    const fs::path other = folder.write("other.csv", "by another program");
+    calls.refused["rename"] = EPERM;
+    calls.onCall = [&](const std::string& call)
+    {
+        if (call == "ftruncate")
+            renameat(AT_FDCWD, other.c_str(), AT_FDCWD, path.c_str());
+    };
+    EXPECT_FALSE(writeFileSafely(path, "new", calls));
+    EXPECT_EQ(contents(path), "by another program");
+}
+
+TEST_F(SafeWriteInPlace, LimitOfTheFileSizeFailsWithoutEndingTheProgram)
+{
+    const fs::path path = folder.write("map.csv", "old text");
+    calls.refused = {{"rename", EPERM}, {"posixFallocate", EOPNOTSUPP}};
+    const auto write = [&]
+    {
+        const FileSizeLimit full(1000);
+        std::signal(SIGXFSZ, SIG_DFL);
+        const bool refused = !writeFileSafely(path, std::string(5000, 'x'), calls) &&
+                             !writeFileSafely(folder / "new.csv", std::string(5000, 'x'));
+        _exit(refused ? 0 : 1);
+    };
+    EXPECT_EXIT(write(), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(contents(path), "old text");
+    EXPECT_FALSE(fs::exists(folder / "new.csv"));
 }
