@@ -60,35 +60,33 @@ void SourceBrowser::createGroupBoxes()
 
 void SourceBrowser::createTree()
 {
-    filling = true;
+    const wxTreeItemId hiddenRoot = sourceTree->AddRoot(wxString());
     std::vector<wxTreeItemId> items;
     items.reserve(database.structure.size());
     for (const StructureNode& node : database.structure)
     {
-        const wxString text = toolkitText(node.label);
-        auto* const payload = new SourceTreeItem(node.dbPrefix);
-        if (node.parent < 0)
-            items.push_back(sourceTree->AddRoot(text, -1, -1, payload));
-        else
-            items.push_back(
-                sourceTree->AppendItem(items[static_cast<std::size_t>(node.parent)], text, -1, -1, payload));
+        const wxTreeItemId parent = node.parent < 0 ? hiddenRoot : items[static_cast<std::size_t>(node.parent)];
+        items.push_back(
+            sourceTree->AppendItem(parent, toolkitText(node.label), -1, -1, new SourceTreeItem(node.dbPrefix)));
     }
-    if (!items.empty())
-    {
-        sourceTree->ExpandAll();
-        sourceTree->SelectItem(items.front());
-    }
-    filling = false;
+    sourceTree->ExpandAll();
 }
 
-void SourceBrowser::selectNode(const wxTreeItemId& node)
+bool SourceBrowser::isInside(wxTreeItemId node, const wxTreeItemId& ancestor) const
 {
-    if (!node.IsOk())
-        return;
-    sourceTree->SelectItem(node);
-    if (const auto* const payload = dynamic_cast<const SourceTreeItem*>(sourceTree->GetItemData(node)))
-        currentPrefix = payload->dbPrefix;
-    refreshTags();
+    do
+        node = sourceTree->GetItemParent(node);
+    while (node.IsOk() && node != ancestor);
+    return node.IsOk();
+}
+
+bool SourceBrowser::isUnfolded(wxTreeItemId node) const
+{
+    const wxTreeItemId hiddenRoot = sourceTree->GetRootItem();
+    do
+        node = sourceTree->GetItemParent(node);
+    while (node != hiddenRoot && sourceTree->IsExpanded(node));
+    return node == hiddenRoot;
 }
 
 TagFilter SourceBrowser::currentFilter() const
@@ -123,17 +121,29 @@ void SourceBrowser::selectAllTags()
 
 void SourceBrowser::OnSourceTreeSelChanged(wxTreeEvent& event)
 {
-    if (!filling)
-        selectNode(event.GetItem());
+    const wxTreeItemId node = event.GetItem();
+    const auto* const payload =
+        node.IsOk() ? dynamic_cast<const SourceTreeItem*>(sourceTree->GetItemData(node)) : nullptr;
+    if (!payload || node == chosenNode)
+        return;
+    chosenNode = node;
+    currentPrefix = payload->dbPrefix;
+    refreshTags();
 }
 
-void SourceBrowser::OnSourceTreeLeftUp(wxMouseEvent& event)
+void SourceBrowser::OnSourceTreeItemCollapsing(wxTreeEvent& event)
 {
-    // The root is selected from the start without its prefix; a click on it brings no change of selection.
+    // The toolkit would select the folded node in place of a selected one inside it, which is nobody's choice.
     event.Skip();
-    const wxTreeItemId node = sourceTree->HitTest(event.GetPosition());
-    if (node.IsOk() && node == sourceTree->GetSelection())
-        selectNode(node);
+    if (chosenNode.IsOk() && isInside(chosenNode, event.GetItem()))
+        sourceTree->Unselect();
+}
+
+void SourceBrowser::OnSourceTreeItemExpanded(wxTreeEvent& event)
+{
+    event.Skip();
+    if (chosenNode.IsOk() && isUnfolded(chosenNode))
+        sourceTree->SelectItem(chosenNode);
 }
 
 void SourceBrowser::OnSourceFilterChanged(wxCommandEvent&)

@@ -4,13 +4,14 @@
 #include "source/TagFilter.h"
 #include "ui/SourceBrowserBase.h"
 
+#include <wx/treebase.h>
+
 #include <functional>
 #include <string>
 #include <vector>
 
 class TagGridTable;
 class wxCheckBox;
-class wxTreeItemId;
 struct Command;
 
 /// The source side: a tree that chooses a tag-name prefix, a text filter, group check boxes, and the grid of the tags
@@ -33,7 +34,8 @@ public:
 
 protected:
     void OnSourceTreeSelChanged(wxTreeEvent& event) override;
-    void OnSourceTreeLeftUp(wxMouseEvent& event) override;
+    void OnSourceTreeItemCollapsing(wxTreeEvent& event) override;
+    void OnSourceTreeItemExpanded(wxTreeEvent& event) override;
     void OnSourceFilterChanged(wxCommandEvent& event) override;
     void OnSourceGridKeyDown(wxKeyEvent& event) override;
     void OnSourceGridRightDown(wxMouseEvent& event) override;
@@ -41,7 +43,8 @@ protected:
 private:
     void createGroupBoxes();
     void createTree();
-    void selectNode(const wxTreeItemId& node);
+    bool isInside(wxTreeItemId node, const wxTreeItemId& ancestor) const;
+    bool isUnfolded(wxTreeItemId node) const;
     TagFilter currentFilter() const;
     void refreshTags();
 
@@ -50,6 +53,6 @@ private:
     TagGridTable* table = nullptr;
     TagSearchIndex searchIndex;
     std::vector<wxCheckBox*> groupBoxes;
+    wxTreeItemId chosenNode; ///< the node whose prefix is in force; none before the first choice
     std::string currentPrefix;
-    bool filling = false; ///< the tree is being built, and its selection events mean nothing
 };

@@ -40,7 +40,10 @@ SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : wxPanel(parent)
 wxSizer* SourceBrowserBase::createTreeColumn()
 {
     wxPanel* const titleRow = panelControls::createTitleRow(this, "SOURCE");
-    sourceTree = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTR_DEFAULT_STYLE | wxBORDER_NONE);
+    // The toolkit (3.2 with GTK) selects the root of a tree in which nothing is selected; hidden, it can be selected
+    // without any node being highlighted.
+    sourceTree = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT | wxBORDER_NONE);
     sourceTree->SetFont(theme::semibold(12));
     panelControls::dress(*sourceTree, theme::contentText, theme::contentBackground);
     auto* const column = new wxBoxSizer(wxVERTICAL);
@@ -96,7 +99,8 @@ void SourceBrowserBase::createGroupFilters(wxSizer& column)
 void SourceBrowserBase::connectEvents()
 {
     sourceTree->Bind(wxEVT_TREE_SEL_CHANGED, &SourceBrowserBase::OnSourceTreeSelChanged, this);
-    sourceTree->Bind(wxEVT_LEFT_UP, &SourceBrowserBase::OnSourceTreeLeftUp, this);
+    sourceTree->Bind(wxEVT_TREE_ITEM_COLLAPSING, &SourceBrowserBase::OnSourceTreeItemCollapsing, this);
+    sourceTree->Bind(wxEVT_TREE_ITEM_EXPANDED, &SourceBrowserBase::OnSourceTreeItemExpanded, this);
     sourceFilter->Bind(wxEVT_TEXT, &SourceBrowserBase::OnSourceFilterChanged, this);
     groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
@@ -113,7 +117,12 @@ void SourceBrowserBase::OnSourceTreeSelChanged(wxTreeEvent& event)
     event.Skip();
 }
 
-void SourceBrowserBase::OnSourceTreeLeftUp(wxMouseEvent& event)
+void SourceBrowserBase::OnSourceTreeItemCollapsing(wxTreeEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceTreeItemExpanded(wxTreeEvent& event)
 {
     event.Skip();
 }

@@ -26,7 +26,8 @@ public:
 
 protected:
     virtual void OnSourceTreeSelChanged(wxTreeEvent& event);
-    virtual void OnSourceTreeLeftUp(wxMouseEvent& event);
+    virtual void OnSourceTreeItemCollapsing(wxTreeEvent& event);
+    virtual void OnSourceTreeItemExpanded(wxTreeEvent& event);
     virtual void OnSourceFilterChanged(wxCommandEvent& event);
     virtual void OnSourceGridKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridRightDown(wxMouseEvent& event);

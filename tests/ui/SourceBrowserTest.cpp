@@ -1,7 +1,6 @@
-#include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
+#include "tests/ui/SourceSide.h"
 #include "tests/ui/UiTest.h"
-#include "ui/ToolkitText.h"
 #include "ui/grid/GridSelection.h"
 
 #include <gtest/gtest.h>
@@ -11,55 +10,6 @@
 #include <wx/scrolwin.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-#include <wx/treectrl.h>
-
-namespace
-{
-
-using Names = std::vector<std::string>;
-
-Names shownTags(const EditorWindow& editor)
-{
-    Names names;
-    for (int row = 0; row < editor.sourceGrid->GetNumberRows(); ++row)
-        names.push_back(modelText(editor.sourceGrid->GetCellValue(row, 0)));
-    return names;
-}
-
-Names clipboardNames(EditorWindow& editor)
-{
-    Names names;
-    for (const RegisterEntry& entry : editor.registerMap().clipboard)
-        names.emplace_back(entry.tagname.view());
-    return names;
-}
-
-wxCheckBox* groupBox(const EditorWindow& editor, const wxString& flag)
-{
-    for (wxWindow* const child : editor.groupFilters->GetChildren())
-    {
-        auto* const box = dynamic_cast<wxCheckBox*>(child);
-        if (box && box->GetLabelText() == flag)
-            return box;
-    }
-    return nullptr;
-}
-
-/// Gives the keyboard to the tag grid.
-void focusTagGrid(const EditorWindow& editor)
-{
-    editor.sourceGrid->SetFocus();
-    EXPECT_TRUE(waitUntil([&] { return editor.sourceGrid->GetGridWindow()->HasFocus(); }));
-}
-
-void clickNode(const EditorWindow& editor, const wxTreeItemId& node)
-{
-    editor.sourceTree->SelectItem(node);
-}
-
-const Names allTags{"PUMP_RUN", "PUMP_SPEED", "PUMP_SPEED_SP", "PUMP_NAME", "TANK_LEVEL", "TANK_HIGH"};
-
-} // namespace
 
 TEST(SourceBrowser, ShowsAllTagsAtFirst)
 {
@@ -115,37 +65,6 @@ TEST(SourceBrowser, CheckedGroupsHaveToBeSharedAll)
     clickOn(*groupBox(editor, "SET"));
     clickOn(*groupBox(editor, "ALM"));
     EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == allTags; }));
-}
-
-TEST(SourceBrowser, TreeNodeChoosesTheBeginningOfTheNames)
-{
-    const PlantFiles files("");
-    const EditorWindow& editor = *openEditor(files.startup());
-    wxTreeItemIdValue cookie = nullptr;
-    const wxTreeItemId root = editor.sourceTree->GetRootItem();
-    const wxTreeItemId pump = editor.sourceTree->GetFirstChild(root, cookie);
-    const wxTreeItemId tank = editor.sourceTree->GetNextChild(root, cookie);
-    EXPECT_EQ(editor.sourceTree->GetItemText(tank), "Tank");
-    EXPECT_TRUE(editor.sourceTree->IsExpanded(root));
-    clickNode(editor, tank);
-    EXPECT_EQ(shownTags(editor), Names({"TANK_LEVEL", "TANK_HIGH"}));
-    clickNode(editor, pump);
-    EXPECT_EQ(shownTags(editor).size(), 4U);
-    clickNode(editor, root);
-    EXPECT_EQ(shownTags(editor), allTags);
-}
-
-TEST(SourceBrowser, ClickOnTheRootTakesItsPrefixThoughItIsSelectedFromTheStart)
-{
-    const TempFolder folder;
-    const auto database = folder.write("rooted.json", R"({"structure": [{"lable": "Works", "dbprefix": "A_"}],
-        "database": [{"Name": "A_1"}, {"Name": "B_1"}]})");
-    const EditorWindow& editor = *openEditor({database.string(), "", 0});
-    EXPECT_EQ(shownTags(editor), Names({"A_1", "B_1"}));
-    wxRect label;
-    ASSERT_TRUE(editor.sourceTree->GetBoundingRect(editor.sourceTree->GetRootItem(), label, true));
-    leftClickOn(*editor.sourceTree, label.x + label.width / 2, label.y + label.height / 2);
-    EXPECT_TRUE(waitUntil([&] { return shownTags(editor) == Names({"A_1"}); }));
 }
 
 TEST(SourceBrowser, ThirtyThirdGroupGetsNoCheckBoxAndLabelsAreLiteral)
