@@ -19,6 +19,10 @@ if(TOLVANE_SANITIZE)
     target_compile_options(project_settings INTERFACE -fsanitize=${TOLVANE_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
     target_link_options(project_settings INTERFACE -fsanitize=${TOLVANE_SANITIZE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_compile_options(project_settings INTERFACE
+            "-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/sanitizer-ignorelist.txt")
+    endif()
 endif()
 
 find_program(CCACHE_PROGRAM ccache)
