@@ -1,5 +1,7 @@
 #include "json/JsonEscape.h"
 
+#include "text/Characters.h"
+
 #include <charconv>
 #include <optional>
 
@@ -19,16 +21,6 @@ std::optional<unsigned> escapedUnit(std::string_view text)
     if (error != std::errc() || stop != end)
         return std::nullopt;
     return unit;
-}
-
-constexpr bool isHighSurrogate(unsigned unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-constexpr bool isLowSurrogate(unsigned unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
 } // namespace

@@ -10,7 +10,10 @@
 namespace
 {
 
-constexpr std::string_view digits = "0123456789";
+constexpr bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
 
 bool take(std::string_view& text, char c)
 {
@@ -22,9 +25,9 @@ bool take(std::string_view& text, char c)
 
 std::string_view takeDigits(std::string_view& text)
 {
-    const std::size_t length = std::min(text.find_first_not_of(digits), text.size());
-    const std::string_view taken = text.substr(0, length);
-    text.remove_prefix(length);
+    const auto* const end = std::ranges::find_if_not(text, isDigit);
+    const std::string_view taken(text.begin(), end);
+    text.remove_prefix(taken.size());
     return taken;
 }
 
@@ -48,7 +51,7 @@ std::optional<std::uint32_t> lowBitsOfDigits(std::string_view text)
     std::uint32_t bits = 0;
     for (const char c : text)
     {
-        if (c < '0' || c > '9')
+        if (!isDigit(c))
             return std::nullopt;
         bits = bits * 10U + static_cast<std::uint32_t>(c - '0');
     }
@@ -59,7 +62,7 @@ std::optional<std::uint32_t> lowBitsOfDigits(std::string_view text)
 std::optional<double> unsignedValue(std::string_view text)
 {
     // The library would also take "inf", "nan" and a minus.
-    if (text.empty() || (text.front() != '.' && digits.find(text.front()) == std::string_view::npos))
+    if (text.empty() || (text.front() != '.' && !isDigit(text.front())))
         return std::nullopt;
     double value = 0;
     const char* const end = text.data() + text.size();
@@ -94,7 +97,7 @@ std::string decimalText(std::string_view number)
     const bool negative = take(magnitude, '-');
     if (magnitude == "0")
         return "0";
-    if (magnitude.find_first_not_of(digits) == std::string_view::npos)
+    if (std::ranges::all_of(magnitude, isDigit))
         return std::string(number);
     const auto value = unsignedValue(magnitude);
     if (!value)
@@ -109,6 +112,9 @@ std::string decimalText(std::string_view number)
 
 std::uint32_t wholeNumberBits(std::string_view text)
 {
+    // Nearly all numbers of a file are digits and nothing else.
+    if (const auto bits = lowBitsOfDigits(text))
+        return *bits;
     constexpr std::string_view blanks = " \t\r\n";
     text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
     text = text.substr(0, text.find_last_not_of(blanks) + 1);

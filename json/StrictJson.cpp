@@ -27,6 +27,12 @@ bool isControlCharacter(char c)
     return static_cast<unsigned char>(c) < 0x20;
 }
 
+/// True for what does not stand for itself inside a string.
+bool isSpecialInString(char c)
+{
+    return c == '"' || c == '\\' || isControlCharacter(c);
+}
+
 char lowerCase(char c)
 {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -190,26 +196,34 @@ bool Rewriter::takeString()
 /// @return false when the string is not closed, or holds an escape that is not whole
 bool Rewriter::takeContent()
 {
-    while (position < text.size())
+    for (;;)
     {
-        const char c = text[position];
-        if (c == '"')
+        const auto* const start = text.begin() + static_cast<std::ptrdiff_t>(position);
+        const std::string_view plain(start, std::find_if(start, text.end(), isSpecialInString));
+        strict += plain;
+        position += plain.size();
+        if (position == text.size())
+            return false;
+        const char special = text[position];
+        if (special == '"')
         {
             ++position;
             return true;
         }
-        std::size_t length = 1;
-        if (c == '\\')
-            length = escapeLength(text.substr(position));
-        if (length == 0)
-            return false;
-        if (isControlCharacter(c))
-            appendEscaped(c);
-        else
+        if (special == '\\')
+        {
+            const std::size_t length = escapeLength(text.substr(position));
+            if (length == 0)
+                return false;
             strict += text.substr(position, length);
-        position += length;
+            position += length;
+        }
+        else
+        {
+            appendEscaped(special);
+            ++position;
+        }
     }
-    return false;
 }
 
 void Rewriter::appendEscaped(char controlCharacter)

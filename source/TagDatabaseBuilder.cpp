@@ -92,7 +92,6 @@ void TagDatabaseBuilder::beginDocument()
     openRoles.clear();
     ignoredDepth = 0;
     openNodes.clear();
-    completeTags.clear();
 }
 
 void TagDatabaseBuilder::beginObject()
@@ -300,11 +299,19 @@ void TagDatabaseBuilder::endElement(Role element)
     if (element == Role::Group && database.groups.back().mask == reservedMask)
         database.groups.pop_back();
     else if (element == Role::Tag && tag.groups != reservedMask)
-        completeTags.add(tag, tagName, tagDescription, database.tags);
-    else if (element == Role::TagList)
-        completeTags.flush(database.tags);
+        appendTag();
     else if (element == Role::Node)
         openNodes.pop_back();
+}
+
+void TagDatabaseBuilder::appendTag()
+{
+    // Texts of tags that are left out would stay in memory for ever.
+    if (database.tags.count() == tagCapacity)
+        return;
+    tag.name = InternedText(tagName);
+    tag.description = InternedText(tagDescription);
+    database.tags.append(tag);
 }
 
 /// Opens an object or array for what it is wanted for; a value of another kind means nothing.

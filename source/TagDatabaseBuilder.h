@@ -1,7 +1,6 @@
 #pragma once
 
 #include "json/TolerantJson.h"
-#include "source/TagBatch.h"
 #include "source/TagDatabase.h"
 
 #include <cstddef>
@@ -60,6 +59,7 @@ private:
     void tagMember(Kind kind, std::string_view content);
     void beginElement(Role list, Kind kind);
     void endElement(Role element);
+    void appendTag();
     void open(Kind kind, Kind wanted, Role role);
     void ignore(Kind kind);
     void close();
@@ -71,5 +71,4 @@ private:
     TagRecord tag;                ///< the tag being read, without its texts
     std::string tagName;          ///< its name
     std::string tagDescription;   ///< its description
-    TagBatch completeTags;        ///< tags that are not in the table yet
 };

@@ -1,5 +1,6 @@
 #include "text/Decode.h"
 
+#include "text/Characters.h"
 #include "text/Utf8.h"
 
 #include <algorithm>
@@ -87,16 +88,6 @@ private:
     bool lowestFirst;
     std::size_t position = 0;
 };
-
-constexpr bool isHighSurrogate(std::uint32_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-constexpr bool isLowSurrogate(std::uint32_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
 
 std::string decodeUtf8(std::string bytes)
 {

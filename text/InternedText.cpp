@@ -101,7 +101,9 @@ private:
 
     void grow()
     {
-        std::vector<Slot> larger(std::max<std::size_t>(1024, slots.size() * 2));
+        // Room for names and descriptions of a full database: growing up to there would take 4 ms of its loading.
+        constexpr std::size_t firstSize = 1U << 18U;
+        std::vector<Slot> larger(std::max(firstSize, slots.size() * 2));
         const std::size_t mask = larger.size() - 1;
         for (const Slot& slot : slots)
         {

@@ -11,7 +11,7 @@ constexpr char32_t replacementCharacter = 0xFFFD;
 struct Utf8Character
 {
     char32_t codePoint = replacementCharacter; ///< the replacement character when malformed
-    std::size_t length = 1;                    ///< bytes taken, 1..4; when malformed, those that belong to no character
+    std::size_t length = 1;                    ///< bytes taken, 1..4; when malformed, the one that begins no character
     bool valid = false;                        ///< false for what no well-formed text holds
 };
 

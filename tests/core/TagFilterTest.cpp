@@ -139,8 +139,6 @@ TEST(TagFilter, IndexHoldsTheTextsInUpperCase)
     EXPECT_EQ(index.name(2), "PMP2_TAMPER");
     EXPECT_EQ(index.description(2), "LID");
     EXPECT_EQ(index.name(4), "");
-    EXPECT_EQ(index.startOf(0), 0U);
-    EXPECT_EQ(index.startOf(5), index.allTexts().size());
 }
 
 TEST(TagFilter, FullTableAgreesWithATagByTagTest)

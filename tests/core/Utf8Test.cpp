@@ -89,24 +89,17 @@ TEST(Utf8, WhatIsNoCharacterIsAppendedAsTheReplacementCharacter)
     appendCharacter(text, 0xD800);
     appendCharacter(text, 0xDFFF);
     appendCharacter(text, 0x110000);
-    EXPECT_EQ(text, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+    appendCharacter(text, 0xFFFFFFFF);
+    EXPECT_EQ(text, "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
-TEST(Utf8, MalformedUnitTakesOnlyTheBytesThatCouldHaveBegunIt)
+TEST(Utf8, ByteThatBeginsNoCharacterIsTakenAlone)
 {
-    EXPECT_EQ(characterAt("\xE2\x82"
-                          "A",
-                          0)
-                  .length,
-              2U);
-    EXPECT_EQ(characterAt("\xE2"
-                          "A",
-                          0)
-                  .length,
-              1U);
-    EXPECT_EQ(characterAt("\x80\x80", 0).length, 1U);
-    EXPECT_FALSE(characterAt("\xE2\x82"
-                             "A",
-                             0)
-                     .valid);
+    for (const std::string_view text : {"\xE2\x82\x41"sv, "\xE2\x41"sv, "\x80\x80"sv, "\xF0\x9F\x98"sv, "\xFF"sv})
+    {
+        const Utf8Character character = characterAt(text, 0);
+        EXPECT_FALSE(character.valid);
+        EXPECT_EQ(character.codePoint, replacementCharacter);
+        EXPECT_EQ(character.length, 1U);
+    }
 }

@@ -9,11 +9,6 @@
 namespace
 {
 
-bool matches(std::string_view pattern, std::string_view text)
-{
-    return WildcardPattern(pattern).matches(text);
-}
-
 /// The definition of matching, written down: row by row, whether the first i units of the pattern match the first j of
 /// the text.
 bool matchesByDefinition(const std::vector<std::string>& pattern, const std::vector<std::string>& text)
@@ -43,89 +38,68 @@ std::string joined(const std::vector<std::string>& units)
 
 TEST(Wildcard, TextWithoutWildcardsMatchesItselfAlone)
 {
-    EXPECT_TRUE(matches("PUMP", "PUMP"));
-    EXPECT_FALSE(matches("PUMP", "PUMPS"));
-    EXPECT_FALSE(matches("PUMP", "APUMP"));
-    EXPECT_FALSE(matches("PUMP", "PUM"));
-    EXPECT_FALSE(matches("PUMP", "pump"));
-    EXPECT_FALSE(matches("PUMP", ""));
+    EXPECT_TRUE(matchesWildcard("PUMP", "PUMP"));
+    EXPECT_FALSE(matchesWildcard("PUMP", "PUMPS"));
+    EXPECT_FALSE(matchesWildcard("PUMP", "APUMP"));
+    EXPECT_FALSE(matchesWildcard("PUMP", "PUM"));
+    EXPECT_FALSE(matchesWildcard("PUMP", "pump"));
+    EXPECT_FALSE(matchesWildcard("PUMP", ""));
 }
 
 TEST(Wildcard, EmptyPatternMatchesTheEmptyTextAlone)
 {
-    EXPECT_TRUE(matches("", ""));
-    EXPECT_FALSE(matches("", "A"));
+    EXPECT_TRUE(matchesWildcard("", ""));
+    EXPECT_FALSE(matchesWildcard("", "A"));
 }
 
 TEST(Wildcard, StarStandsForAnyRun)
 {
-    EXPECT_TRUE(matches("*", ""));
-    EXPECT_TRUE(matches("***", "ANY"));
-    EXPECT_TRUE(matches("*TEMP*", "TEMP"));
-    EXPECT_TRUE(matches("*TEMP*", "A TEMP 1"));
-    EXPECT_FALSE(matches("*TEMP*", "TEM P"));
-    EXPECT_TRUE(matches("A*B", "AB"));
-    EXPECT_TRUE(matches("A*B", "A B B"));
-    EXPECT_FALSE(matches("A*B", "A B A"));
-    EXPECT_FALSE(matches("A*A", "A"));
-    EXPECT_TRUE(matches("A*B*C", "A1B2B3C"));
-    EXPECT_FALSE(matches("A*B*C", "A1C2B"));
+    EXPECT_TRUE(matchesWildcard("*", ""));
+    EXPECT_TRUE(matchesWildcard("***", "ANY"));
+    EXPECT_TRUE(matchesWildcard("*TEMP*", "TEMP"));
+    EXPECT_TRUE(matchesWildcard("*TEMP*", "A TEMP 1"));
+    EXPECT_FALSE(matchesWildcard("*TEMP*", "TEM P"));
+    EXPECT_TRUE(matchesWildcard("A*B", "AB"));
+    EXPECT_TRUE(matchesWildcard("A*B", "A B B"));
+    EXPECT_FALSE(matchesWildcard("A*B", "A B A"));
+    EXPECT_FALSE(matchesWildcard("A*A", "A"));
+    EXPECT_TRUE(matchesWildcard("A*B*C", "A1B2B3C"));
+    EXPECT_FALSE(matchesWildcard("A*B*C", "A1C2B"));
 }
 
 TEST(Wildcard, QuestionMarkStandsForExactlyOneCharacter)
 {
-    EXPECT_TRUE(matches("T?MP", "TEMP"));
-    EXPECT_TRUE(matches("T?MP", "TAMP"));
-    EXPECT_FALSE(matches("T?MP", "TMP"));
-    EXPECT_FALSE(matches("T?MP", "TEEMP"));
-    EXPECT_FALSE(matches("?", ""));
-    EXPECT_TRUE(matches("*?", "A"));
-    EXPECT_FALSE(matches("*?*", ""));
-    EXPECT_TRUE(matches("*??*", "AB"));
-    EXPECT_FALSE(matches("*??*", "A"));
-    EXPECT_TRUE(matches("*??MP*", "TEMP"));
-    EXPECT_FALSE(matches("*??MP*", "EMP"));
-    EXPECT_TRUE(matches("*?A", "AA"));
+    EXPECT_TRUE(matchesWildcard("T?MP", "TEMP"));
+    EXPECT_TRUE(matchesWildcard("T?MP", "TAMP"));
+    EXPECT_FALSE(matchesWildcard("T?MP", "TMP"));
+    EXPECT_FALSE(matchesWildcard("T?MP", "TEEMP"));
+    EXPECT_FALSE(matchesWildcard("?", ""));
+    EXPECT_TRUE(matchesWildcard("*?", "A"));
+    EXPECT_FALSE(matchesWildcard("*?*", ""));
+    EXPECT_TRUE(matchesWildcard("*??*", "AB"));
+    EXPECT_FALSE(matchesWildcard("*??*", "A"));
+    EXPECT_TRUE(matchesWildcard("*??MP*", "TEMP"));
+    EXPECT_FALSE(matchesWildcard("*??MP*", "EMP"));
+    EXPECT_TRUE(matchesWildcard("*?A", "AA"));
 }
 
 TEST(Wildcard, QuestionMarkTakesACharacterOfSeveralBytes)
 {
-    EXPECT_TRUE(matches("T?R", "T\xC3\x9CR"));
-    EXPECT_TRUE(matches("?", "\xF0\x9F\x98\x80"));
-    EXPECT_FALSE(matches("??", "\xF0\x9F\x98\x80"));
-    EXPECT_TRUE(matches("*?R*", "\xC3\x9CR"));
-    EXPECT_FALSE(matches("*??R*", "\xC3\x9CR"));
-    EXPECT_TRUE(matches("*R?", "R\xC3\x9C"));
-    EXPECT_TRUE(matches("*\xC3\x9C?", "\xC3\x9C\xC3\x9C\xC3\x9C"));
+    EXPECT_TRUE(matchesWildcard("T?R", "T\xC3\x9CR"));
+    EXPECT_TRUE(matchesWildcard("?", "\xF0\x9F\x98\x80"));
+    EXPECT_FALSE(matchesWildcard("??", "\xF0\x9F\x98\x80"));
+    EXPECT_TRUE(matchesWildcard("*?R*", "\xC3\x9CR"));
+    EXPECT_FALSE(matchesWildcard("*??R*", "\xC3\x9CR"));
+    EXPECT_TRUE(matchesWildcard("*R?", "R\xC3\x9C"));
+    EXPECT_TRUE(matchesWildcard("*\xC3\x9C?", "\xC3\x9C\xC3\x9C\xC3\x9C"));
 }
 
 TEST(Wildcard, EverythingElseStandsForItself)
 {
-    EXPECT_TRUE(matches("[A-Z]\\.+^$(x)", "[A-Z]\\.+^$(x)"));
-    EXPECT_FALSE(matches("[A-Z]", "B"));
-    EXPECT_FALSE(matches("\\*", "*"));
-    EXPECT_TRUE(matches("\\*", "\\abc"));
-}
-
-TEST(Wildcard, LongestPieceIsInEveryMatch)
-{
-    EXPECT_EQ(WildcardPattern("*AB?CDE*FG*").longestPiece(), "CDE");
-    EXPECT_EQ(WildcardPattern("*?*").longestPiece(), "");
-    EXPECT_EQ(WildcardPattern("ABC").longestPiece(), "ABC");
-}
-
-TEST(Wildcard, ContainmentIsAPieceBetweenStars)
-{
-    EXPECT_TRUE(WildcardPattern("*").isContainment());
-    EXPECT_TRUE(WildcardPattern("*ABC*").isContainment());
-    EXPECT_TRUE(WildcardPattern("**ABC**").isContainment());
-    EXPECT_FALSE(WildcardPattern("*A?C*").isContainment());
-    EXPECT_FALSE(WildcardPattern("*?*").isContainment());
-    EXPECT_FALSE(WildcardPattern("*A*C*").isContainment());
-    EXPECT_FALSE(WildcardPattern("ABC*").isContainment());
-    EXPECT_FALSE(WildcardPattern("*ABC").isContainment());
-    EXPECT_FALSE(WildcardPattern("ABC").isContainment());
-    EXPECT_FALSE(WildcardPattern("").isContainment());
+    EXPECT_TRUE(matchesWildcard("[A-Z]\\.+^$(x)", "[A-Z]\\.+^$(x)"));
+    EXPECT_FALSE(matchesWildcard("[A-Z]", "B"));
+    EXPECT_FALSE(matchesWildcard("\\*", "*"));
+    EXPECT_TRUE(matchesWildcard("\\*", "\\abc"));
 }
 
 TEST(Wildcard, AgreesWithTheDefinitionOnRandomTexts)
@@ -146,12 +120,8 @@ TEST(Wildcard, AgreesWithTheDefinitionOnRandomTexts)
         const auto pattern = draw(7, unitsOfPattern);
         const auto text = draw(10, letters);
         const bool expected = matchesByDefinition(pattern, text);
-        ASSERT_EQ(matches(joined(pattern), joined(text)), expected) << joined(pattern) << " | " << joined(text);
-        if (expected)
-        {
-            ++matching;
-            ASSERT_NE(joined(text).find(WildcardPattern(joined(pattern)).longestPiece()), std::string::npos);
-        }
+        ASSERT_EQ(matchesWildcard(joined(pattern), joined(text)), expected) << joined(pattern) << " | " << joined(text);
+        matching += expected ? 1 : 0;
     }
     EXPECT_GT(matching, 10000);
 }
@@ -167,8 +137,8 @@ TEST(Wildcard, MalformedTextsAreMatchedWithoutHarm)
             c = "*?A\x80\xC3"[random() % 5];
         for (char& c : text)
             c = "A\x80\xC3\xFF"[random() % 4];
-        ASSERT_TRUE(WildcardPattern("*" + text + "*").matches(text)) << "round " << round;
-        ASSERT_FALSE(WildcardPattern(pattern + "B").matches(text)) << "round " << round;
+        ASSERT_TRUE(matchesWildcard("*" + text + "*", text)) << "round " << round;
+        ASSERT_FALSE(matchesWildcard(pattern + "B", text)) << "round " << round;
     }
 }
 
@@ -180,11 +150,11 @@ TEST(Wildcard, ManyStarsTakeNoMoreThanTextTimesPattern)
     pattern += "B*";
     std::string text;
     text.resize(1000000, 'A');
-    EXPECT_FALSE(matches(pattern, text));
-    EXPECT_TRUE(matches(pattern, text + "B"));
+    EXPECT_FALSE(matchesWildcard(pattern, text));
+    EXPECT_TRUE(matchesWildcard(pattern, text + "B"));
 
     std::string wilds = "*";
     for (int i = 0; i < 100; ++i)
         wilds += "?*";
-    EXPECT_FALSE(matches(wilds + "B", text));
+    EXPECT_FALSE(matchesWildcard(wilds + "B", text));
 }
