@@ -18,6 +18,9 @@ namespace
 /// Pixels beside the text of a button.
 constexpr int buttonPadding = 12;
 
+/// Pixels between the border of a field and its text.
+constexpr int fieldPadding = 10;
+
 } // namespace
 
 DialogBase::DialogBase(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& position,
@@ -56,8 +59,18 @@ wxTextCtrl* DialogBase::createField(int width)
     field->SetFont(theme::regular(9));
     field->SetForegroundColour(theme::colour(theme::entryText));
     field->SetBackgroundColour(theme::colour(theme::entryBackground));
-    field->SetMinSize(wxSize(field->FromDIP(width), desktop::fieldHeight(*field)));
+    field->SetMinSize(wxSize(width, desktop::fieldHeight(*field)));
     return field;
+}
+
+int DialogBase::fieldWidthFor(int characters) const
+{
+    const wxFont font = theme::regular(9);
+    int width = 0;
+    int height = 0;
+    // As wide as capital letters are on average.
+    GetTextExtent(wxString('N', static_cast<std::size_t>(characters)), &width, &height, nullptr, nullptr, &font);
+    return width + 2 * FromDIP(fieldPadding);
 }
 
 wxCheckBox* DialogBase::createCheckBox(const wxString& text)

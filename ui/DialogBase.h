@@ -35,8 +35,11 @@ protected:
     wxStaticText* createLabel(const wxString& text);
 
     /// An empty single-line text field.
-    /// @param width  pixels at 96 dots per inch that it takes at least
+    /// @param width  pixels that it takes at least
     wxTextCtrl* createField(int width);
+
+    /// Pixels of a field that shows so many characters at once, capital letters too, in the font in use.
+    int fieldWidthFor(int characters) const;
 
     /// A check box, clear at first.
     /// @param text  may be empty

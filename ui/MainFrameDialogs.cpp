@@ -40,6 +40,7 @@ void MainFrame::editRegister()
     const wxString spaceName = toolkitText(spaceDisplayName(static_cast<int>(map.currentSpace)));
     RegisterEditor dialog(mapGrid, wxID_ANY, wxString::Format("%s register %05d", spaceName, entry.address));
     dialog.showEntry(entry, editRoom(slots, *head));
+    dialog.offerTagnames(document.database.tags);
     if (dialog.ShowModal() != wxID_OK)
         return;
     applyEdit(slots, *head, dialog.editedRegister());

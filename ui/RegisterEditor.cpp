@@ -1,6 +1,8 @@
 #include "ui/RegisterEditor.h"
 
+#include "source/TagNames.h"
 #include "ui/MessageBox.h"
+#include "ui/NameOffers.h"
 #include "ui/ToolkitText.h"
 
 #include <wx/button.h>
@@ -15,6 +17,9 @@ namespace
 
 /// Pixels to spare beside the longest status text: a window manager may take a few off the dialog.
 constexpr int statusMargin = 20;
+
+/// Names in the list below the tagname: more than anybody reads.
+constexpr std::size_t mostOffers = 100;
 
 constexpr const char* tooLongText = "Insufficient space - please correct register type or size";
 constexpr const char* movingText = "Insufficient space - registers will be moved down to create room";
@@ -55,6 +60,20 @@ void RegisterEditor::showEntry(const RegisterEntry& entry, EditRoom entryRoom)
     typeBox->SetValue(toolkitText(typeName(entry.type)));
     room = entryRoom;
     lengthField->SetValue(wxString::Format("%i", static_cast<std::int32_t>(entry.registerCount)));
+    // Typing replaces the name at once.
+    tagnameField->SelectAll();
+}
+
+void RegisterEditor::offerTagnames(const TagTable& tags)
+{
+    offerNames(*tagnameField,
+               [&tags](const wxString& typed)
+               {
+                   std::vector<wxString> names;
+                   for (const InternedText name : namesBeginningWith(tags, modelText(typed), mostOffers))
+                       names.push_back(toolkitText(name.view()));
+                   return names;
+               });
 }
 
 EditedRegister RegisterEditor::editedRegister() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/RegisterEdit.h"
+#include "source/TagTable.h"
 #include "ui/RegisterEditorBase.h"
 
 /// Lets the user edit one object of the register map and says beforehand whether its new size fits.
@@ -12,6 +13,10 @@ public:
 
     /// Fills every field from an object and takes the room that it has.
     void showEntry(const RegisterEntry& entry, EditRoom entryRoom);
+
+    /// Offers the names of the tag database while a tagname is typed.
+    /// @param tags  outlives the dialog
+    void offerTagnames(const TagTable& tags);
 
     /// What the fields say; to be read after wxID_OK.
     EditedRegister editedRegister() const;

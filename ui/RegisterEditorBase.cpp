@@ -15,8 +15,8 @@ namespace
 /// Pixels of the type box, and of the length field beneath it.
 constexpr int typeWidth = 150;
 
-/// Pixels that a tagname or a description has at least.
-constexpr int textWidth = 380;
+/// Characters of a tagname or a description that are seen at once.
+constexpr int textLength = 60;
 
 } // namespace
 
@@ -54,7 +54,8 @@ wxSizer* RegisterEditorBase::layFields()
     };
 
     addLabel("Tagname");
-    tagnameField = createField(textWidth);
+    tagnameField = createField(fieldWidthFor(textLength));
+    tagnameField->SetToolTip("a name of the tag database, without a comma or a line break");
     sizer->Add(tagnameField, wide);
 
     addLabel("Type");
@@ -62,7 +63,8 @@ wxSizer* RegisterEditorBase::layFields()
     sizer->Add(typeBox, flags);
 
     lengthLabel = addLabel("Length");
-    lengthField = createField(typeWidth);
+    lengthField = createField(FromDIP(typeWidth));
+    lengthField->SetToolTip("registers, 2 characters each");
     sizer->Add(lengthField, flags);
 
     addLabel("Write");
@@ -73,7 +75,8 @@ wxSizer* RegisterEditorBase::layFields()
     sizer->Add(layByteOrder(), flags);
 
     addLabel("Description");
-    descriptionField = createField(textWidth);
+    descriptionField = createField(fieldWidthFor(textLength));
+    descriptionField->SetToolTip("no comma and no line break, or the line is not read again");
     sizer->Add(descriptionField, wide);
     return sizer;
 }

@@ -8,8 +8,8 @@
 namespace
 {
 
-/// Pixels of a field, enough for most tagnames.
-constexpr int fieldWidth = 220;
+/// Characters of a field that are seen at once, enough for most tagnames.
+constexpr int textLength = 24;
 
 /// Pixels between fields and buttons.
 constexpr int buttonGap = 10;
@@ -35,9 +35,9 @@ TagSearchAndReplaceDialogBase::TagSearchAndReplaceDialogBase(wxWindow* parent, w
 wxSizer* TagSearchAndReplaceDialogBase::layFields()
 {
     findLabel = createLabel("Find in Tagname");
-    findText = createField(fieldWidth);
+    findText = createField(fieldWidthFor(textLength));
     replaceLabel = createLabel("Replace with");
-    replaceText = createField(fieldWidth);
+    replaceText = createField(fieldWidthFor(textLength));
 
     auto* const sizer = new wxGridSizer(2);
     const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));

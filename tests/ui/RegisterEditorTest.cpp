@@ -68,6 +68,14 @@ TEST(RegisterEditor, TypingStartsInTheTagname)
         });
 }
 
+TEST(RegisterEditor, TooltipsSayWhatTheFieldsTake)
+{
+    const RegisterEditor editor(nullptr);
+    EXPECT_EQ(editor.tagnameField->GetToolTipText(), "a name of the tag database, without a comma or a line break");
+    EXPECT_EQ(editor.lengthField->GetToolTipText(), "registers, 2 characters each");
+    EXPECT_EQ(editor.descriptionField->GetToolTipText(), "no comma and no line break, or the line is not read again");
+}
+
 TEST(RegisterEditor, HelpShowsThePictureAtTheRightEdgeAndComesBack)
 {
     EditorUnderTest editor(DataType::Int16);
