@@ -34,6 +34,7 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
       secondDeviceAddress(TOLVANE_DEFAULT_DEVICE_ADDRESS)
 {
     SetIcons(namedIcon("icon_program"));
+    // The grid owns its table; the table answers from the document, which outlives both.
     mapTable = new MapGridTable(map);
     panelControls::showTable(*mapGrid, mapTable);
     sourceBrowser =

@@ -1,4 +1,11 @@
 // The editing commands: selection to addresses, one operation of the model, view up to date.
+//
+// Which commands judge the map again is settled in the model's terms: compress and the purge do, because they leave
+// slots whose marks say nothing any more. All the others carry the marks along with the registers, so that a look at
+// the list after a paste or a move shows what it showed before.
+//
+// A command that finds nothing to do leaves list and selection as they are; one that rebuilds the list drops the
+// selection, because its rows are others then.
 
 #include "map/Clipboard.h"
 #include "map/Compress.h"
@@ -15,6 +22,7 @@
 
 void MainFrame::copySourceTags()
 {
+    // With nothing selected the clipboard is emptied: what is pasted next is never a forgotten copy.
     map.clipboard = ::copySourceTags(document.database.tags, sourceBrowser->selectedTags(), document.defaultByteOrder);
 }
 
@@ -39,6 +47,7 @@ void MainFrame::cutRegisters()
 
 void MainFrame::pasteRegisters()
 {
+    // The rows decide before the addresses do: in an empty list there is nothing to select, and tags go to address 0.
     const std::optional<int> target = insertionTarget(mapTable->GetNumberRows(), selectedAddresses());
     if (!target)
         return;
@@ -58,6 +67,8 @@ void MainFrame::pasteRegisters()
 void MainFrame::appendRegisters()
 {
     const std::optional<int> target = insertionTarget(mapTable->GetNumberRows(), selectedAddresses());
+    // Unlike paste, append looks for room of its own: where there is none it is not refused, there is just nothing to
+    // do.
     if (target && ::appendRegisters(map, *target))
         refreshMapView(-1);
 }
@@ -67,12 +78,14 @@ void MainFrame::deleteRegisters()
     const std::vector<int> addresses = collectSelection();
     if (addresses.empty())
         return;
+    // Nothing is asked. What must not go is locked, and stays.
     eraseRegisters(map, addresses);
     refreshMapView(-1);
 }
 
 void MainFrame::moveRegisters(bool shoving, MoveDirection direction)
 {
+    // A key held down arrives while the last step is still being reselected.
     if (refreshing)
         return;
     const std::vector<int> addresses = collectSelection();
@@ -81,6 +94,7 @@ void MainFrame::moveRegisters(bool shoving, MoveDirection direction)
     const MoveResult result = moveSlots(map.currentSlots(), addresses, direction, shoving);
     if (map.viewMode == ViewMode::All)
     {
+        // Every address keeps its row: repainting those that changed keeps the place in the list.
         refreshRows(addresses);
         refreshRows(result.changed);
     }
@@ -88,6 +102,7 @@ void MainFrame::moveRegisters(bool shoving, MoveDirection direction)
     {
         refreshMapView(-1);
     }
+    // The moved registers stay selected, so that the next key moves them on.
     reselectAddresses(result.positions);
 }
 
@@ -96,6 +111,7 @@ void MainFrame::compressRegisters()
     switch (::compressRegisters(map.currentSlots(), collectSelection()))
     {
     case CompressResult::Locked:
+        // The range may be long and the lock out of sight.
         messageBox(compressRefusedText);
         break;
     case CompressResult::Compressed:
@@ -122,6 +138,7 @@ void MainFrame::toggleLocks()
 
 void MainFrame::deleteErrorRegisters()
 {
+    // The only command that asks: it works on spaces that are not in sight.
     if (messageBox(purgeQuestionText, confirmationCaption, wxYES_NO, this) != wxYES)
         return;
     ::deleteErrorRegisters(map);

@@ -1,4 +1,4 @@
-// Leaving the program and what goes with it.
+// The commands about the whole program: leaving and saving, exporting, the about box and the documents.
 
 #include "map/MapExport.h"
 #include "ui/MainFrame.h"
@@ -17,7 +17,8 @@ namespace
 {
 
 /// Shows the toolkit's own about box and waits until it is closed.
-/// The toolkit's functions show a box that waits on some desktops only, and that deletes itself on the others.
+/// Its functions (3.2) show a box that waits on some desktops only, and that deletes itself on the others: with GTK the
+/// program would go on, and take the next click, behind an open box.
 void showUntilClosed(const wxAboutDialogInfo& about)
 {
     wxGenericAboutDialog box(about);
@@ -31,6 +32,7 @@ void showUntilClosed(const wxAboutDialogInfo& about)
 
 void MainFrame::exitAndSave()
 {
+    // Changed and changed back is not changed: nobody is asked to save what the file says already.
     if (map.isModified())
     {
         const int answer = messageBox("Save changes ?", confirmationCaption, wxYES_NO);
@@ -42,6 +44,7 @@ void MainFrame::exitAndSave()
         else if (!saveDefinition())
             return;
     }
+    // Forced: nothing may stand in the way of leaving from here on.
     Close(true);
 }
 
@@ -56,7 +59,7 @@ bool MainFrame::saveDefinition()
             return false;
         document.definitionPath = toPath(chosen);
     }
-    // A file that cannot be written is not reported: leaving goes on.
+    // A file that cannot be written is not reported and leaving goes on. The work is then in the rescue copy.
     document.saveDefinition();
     return true;
 }
@@ -66,6 +69,7 @@ void MainFrame::exportMap()
     const wxString path =
         chooseFile(this, {"Export map as CSV or Text file", wxStandardPaths::Get().GetDocumentsDir(), "data.csv",
                           "CSV files (*.csv)|*.csv|Text files (*.txt)|*.txt", wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
+    // Like saving, an export that fails stays silent; the file chooser has asked about overwriting.
     if (!path.empty())
         ::exportMap(map, toPath(path));
 }
@@ -83,11 +87,12 @@ void MainFrame::showAbout()
 
 void MainFrame::showHelp()
 {
-    // The suite stores its paths in the form of one system only.
+    // The suite stores its paths in the form of one system only, also where this one writes them otherwise.
     wxString folder = documentationFolder;
     folder.Replace("\\", wxString(wxFileName::GetPathSeparator()));
     const wxString chosen =
         chooseFile(this, {"Select a document", folder, "*.pdf", "*.pdf", wxFD_OPEN | wxFD_FILE_MUST_EXIST});
+    // What cannot be opened, a document without a viewer for one, is the toolkit's to tell.
     if (!chosen.empty())
         wxLaunchDefaultApplication(chosen);
 }
