@@ -4,6 +4,14 @@
 #include "ui/NamedImages.h"
 #include "ui/Theme.h"
 
+namespace
+{
+
+/// Pixels of a button on either side, of which its picture takes the middle: all of it can be pressed.
+constexpr int buttonSide = 32;
+
+} // namespace
+
 wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const wxString& tooltip, bool hovering)
 {
     auto* const button = new wxBitmapButton(parent, wxID_ANY, namedImage(name), wxDefaultPosition, wxDefaultSize,
@@ -12,6 +20,7 @@ wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const 
     button->SetBitmapPressed(namedImage(name + "_pressed"));
     if (hovering)
         button->SetBitmapCurrent(namedImage(name + "_hover"));
+    button->SetMinSize(button->FromDIP(wxSize(buttonSide, buttonSide)));
     button->SetToolTip(tooltip);
     desktop::keepFocusOnClick(*button);
     return button;

@@ -23,9 +23,6 @@ constexpr const char* documentationSubfolder = "varnokconfigure\\DOCUMENTATION";
 constexpr int wideGap = 20;
 constexpr int narrowGap = 7;
 
-/// Pixels around a button.
-constexpr int buttonBorder = 3;
-
 } // namespace
 
 MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser)
@@ -73,21 +70,21 @@ void MainFrame::createSpaceButtons()
     {
         wxBitmapButton* const button = createImageButton(mapButtonSizer->GetContainingWindow(), image, tooltip, false);
         button->Bind(wxEVT_BUTTON, [this, shown = space](wxCommandEvent&) { selectSpace(shown); });
-        mapButtonSizer->Add(button, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(buttonBorder));
+        mapButtonSizer->Add(button, 0, wxALIGN_CENTRE_VERTICAL);
         spaceButtons[static_cast<std::size_t>(space)] = button;
     }
 }
 
 void MainFrame::createButton(const Command& command)
 {
-    wxBoxSizer& place = buttonPlace(command.bar);
+    wxSizer& place = buttonPlace(command.bar);
     addGap(place, command);
     wxBitmapButton* const button = createImageButton(place.GetContainingWindow(), command.image, command.tooltip, true);
     button->Bind(wxEVT_BUTTON, [this, run = command.run](wxCommandEvent&) { run(*this); });
-    place.Add(button, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(buttonBorder));
+    place.Add(button, 0, wxALIGN_CENTRE_VERTICAL);
 }
 
-wxBoxSizer& MainFrame::buttonPlace(ButtonBar bar) const
+wxSizer& MainFrame::buttonPlace(ButtonBar bar) const
 {
     switch (bar)
     {

@@ -71,7 +71,7 @@ private:
     void createButtons();
     void createSpaceButtons();
     void createButton(const Command& command);
-    wxBoxSizer& buttonPlace(ButtonBar bar) const;
+    wxSizer& buttonPlace(ButtonBar bar) const;
     void addGap(wxSizer& sizer, const Command& command) const;
 
     void refreshMapView(int scrollAddress);

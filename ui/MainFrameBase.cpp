@@ -15,6 +15,10 @@ namespace
 /// Milliseconds between two counts of the error marks.
 constexpr int statusInterval = 1000;
 
+/// Pixels below which the window does not get: all of its parts can still be used.
+constexpr int leastWidth = 800;
+constexpr int leastHeight = 480;
+
 } // namespace
 
 MainFrameBase::MainFrameBase()
@@ -22,6 +26,7 @@ MainFrameBase::MainFrameBase()
               wxCAPTION | wxRESIZE_BORDER | wxMINIMIZE_BOX | wxMAXIMIZE_BOX | wxTAB_TRAVERSAL),
       timer(this)
 {
+    SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
     SetSize(FromDIP(wxSize(1719, 824)));
     panelControls::dress(*this, theme::frameText, theme::frameBackground);
 
@@ -65,8 +70,7 @@ void MainFrameBase::createMapPanel()
     panelControls::dress(*mapPanel, theme::frameText, theme::frameBackground);
     mapPanel->SetDoubleBuffered(true);
     wxPanel* const titleRow = panelControls::createTitleRow(mapPanel, "MODBUS");
-    mapButtonSizer = new wxBoxSizer(wxHORIZONTAL);
-    titleRow->GetSizer()->Add(mapButtonSizer, 1, wxALIGN_CENTRE_VERTICAL);
+    mapButtonSizer = titleRow->GetSizer();
 
     mapGrid = panelControls::createGrid(mapPanel, mapColumns);
     mapGrid->DisableDragColMove();
@@ -84,7 +88,9 @@ wxPanel* MainFrameBase::createStatusLine()
 {
     auto* const line = new wxPanel(mapPanel);
     panelControls::dress(*line, theme::statusStart, theme::headerBackground);
-    statusLabel = panelControls::createText(line, "No Errors", theme::regular(9), theme::statusStart);
+    statusLabel = panelControls::createText(line, "No Errors", theme::regular(9), theme::statusStart,
+                                            wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
+    statusLabel->SetMinSize(wxSize(0, -1));
     viewLabel = panelControls::createText(line, "COMPRESSED", theme::semibold(12), theme::title);
     viewLabel->SetBackgroundColour(theme::colour(theme::headerBackground));
     auto* const sizer = new wxBoxSizer(wxHORIZONTAL);

@@ -9,6 +9,7 @@ class wxGrid;
 class wxGridEvent;
 class wxGridRangeSelectEvent;
 class wxPanel;
+class wxSizer;
 class wxSplitterWindow;
 class wxStaticText;
 
@@ -40,7 +41,7 @@ protected:
     wxSplitterWindow* splitter = nullptr;
 
     wxPanel* mapPanel = nullptr;
-    wxBoxSizer* mapButtonSizer = nullptr;
+    wxSizer* mapButtonSizer = nullptr;
     wxGrid* mapGrid = nullptr;
     wxStaticText* statusLabel = nullptr;
     wxStaticText* viewLabel = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/PanelControls.h"
 
 #include "ui/Theme.h"
+#include "ui/WrappingRowSizer.h"
 #include "ui/grid/CellTooltips.h"
 #include "ui/grid/ColumnWidths.h"
 #include "ui/grid/RowCellRenderer.h"
@@ -10,13 +11,23 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace
 {
 
+/// Pixels of a grid row with texts of the usual size.
+constexpr int usualRowHeight = 25;
+
+/// Pixels above and below a line of text in its row, together.
+constexpr int rowPadding = 6;
+
 /// Pixels of a title row with its buttons.
 constexpr int titleRowHeight = 42;
+
+/// Pixels by which buttons get narrower on small screens: the 19 of the map then fit into half of 1366.
+constexpr int buttonNarrowing = 6;
 
 /// Pixels on both sides of a title.
 constexpr int titleBorder = 8;
@@ -24,8 +35,8 @@ constexpr int titleBorder = 8;
 /// Gives a grid its fonts and colours.
 void dressGrid(wxGrid& grid)
 {
-    grid.SetDefaultCellFont(theme::regular(10));
-    grid.SetLabelFont(theme::regular(10));
+    grid.SetDefaultCellFont(theme::cell());
+    grid.SetLabelFont(theme::cell());
     grid.SetDefaultCellTextColour(theme::colour(theme::cellText));
     grid.SetDefaultCellBackgroundColour(theme::colour(theme::contentBackground));
     grid.SetCellHighlightColour(theme::colour(theme::selection));
@@ -39,15 +50,24 @@ void dressGrid(wxGrid& grid)
 namespace panelControls
 {
 
+int rowHeight(const wxWindow& window)
+{
+    const wxFont font = theme::cell();
+    int width = 0;
+    int line = 0;
+    window.GetTextExtent("x", &width, &line, nullptr, nullptr, &font);
+    return std::max(window.FromDIP(usualRowHeight), line + window.FromDIP(rowPadding));
+}
+
 void dress(wxWindow& window, Rgb text, Rgb background)
 {
     window.SetForegroundColour(theme::colour(text));
     window.SetBackgroundColour(theme::colour(background));
 }
 
-wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& font, Rgb colour)
+wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& font, Rgb colour, long style)
 {
-    auto* const label = new wxStaticText(parent, wxID_ANY, text);
+    auto* const label = new wxStaticText(parent, wxID_ANY, text, wxDefaultPosition, wxDefaultSize, style);
     label->SetFont(font);
     label->SetForegroundColour(theme::colour(colour));
     return label;
@@ -57,10 +77,10 @@ wxPanel* createTitleRow(wxWindow* parent, const wxString& title)
 {
     auto* const row = new wxPanel(parent);
     dress(*row, theme::frameText, theme::headerBackground);
-    row->SetMinSize(row->FromDIP(wxSize(-1, titleRowHeight)));
     auto* const text = createText(row, title, theme::semibold(16), theme::title);
     text->SetBackgroundColour(theme::colour(theme::headerBackground));
-    auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
+    auto* const sizer = new WrappingRowSizer(row->FromDIP(buttonNarrowing));
+    sizer->SetMinSize(row->FromDIP(wxSize(0, titleRowHeight)));
     sizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, row->FromDIP(titleBorder));
     row->SetSizer(sizer);
     return row;
@@ -75,8 +95,8 @@ wxGrid* createGrid(wxWindow* parent, GridColumns columns)
     grid->SetMargins(0, 0);
     grid->SetRowLabelSize(0);
     grid->SetColLabelSize(0);
-    grid->SetDefaultRowSize(grid->FromDIP(rowHeight));
-    grid->SetScrollLineY(grid->FromDIP(rowHeight)); // no row is ever cut at the top
+    grid->SetDefaultRowSize(rowHeight(*grid));
+    grid->SetScrollLineY(rowHeight(*grid)); // no row is ever cut at the top
     grid->DisableDragRowSize();
     grid->DisableDragGridSize(); // a click near the edge of a cell is meant for its row
     grid->SetDefaultCellOverflow(false);

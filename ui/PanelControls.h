@@ -16,16 +16,19 @@ class wxWindow;
 namespace panelControls
 {
 
-/// Pixels of a grid row at 96 dots per inch; what scrolls beside a grid does so by as much.
-constexpr int rowHeight = 25;
+/// Pixels of a grid row: 25 at 96 dots per inch, or more where the desktop's texts are large. What scrolls beside a
+/// grid does so by as much.
+int rowHeight(const wxWindow& window);
 
 /// Gives a window its colours.
 void dress(wxWindow& window, Rgb text, Rgb background);
 
 /// A text that the user only reads.
-wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& font, Rgb colour);
+/// @param style  the toolkit's styles of such texts
+wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& font, Rgb colour, long style = 0);
 
-/// A row with a title at its left end; the sizer of the panel takes what comes after it.
+/// A row with a title at its left end; the sizer of the panel takes what comes after it, and goes on in further rows
+/// where the first one has no room.
 wxPanel* createTitleRow(wxWindow* parent, const wxString& title);
 
 /// An empty grid that is read only and whose rows are selected whole.

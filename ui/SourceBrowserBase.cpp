@@ -1,5 +1,6 @@
 #include "ui/SourceBrowserBase.h"
 
+#include "ui/Desktop.h"
 #include "ui/PanelControls.h"
 #include "ui/Theme.h"
 #include "ui/grid/GridHeader.h"
@@ -19,7 +20,10 @@ namespace
 constexpr int groupFilterHeight = 172;
 
 /// Pixels that the filter field takes at least.
-constexpr int filterWidth = 220;
+constexpr int filterWidth = 110;
+
+/// Pixels that the tree takes at least; it scrolls.
+constexpr int treeWidth = 200;
 
 } // namespace
 
@@ -27,8 +31,8 @@ SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : wxPanel(parent)
 {
     panelControls::dress(*this, theme::frameText, theme::frameBackground);
     auto* const columns = new wxBoxSizer(wxHORIZONTAL);
-    columns->Add(createTreeColumn(), 1, wxEXPAND);
-    columns->Add(createTagColumn(), 3, wxEXPAND | wxLEFT, FromDIP(1));
+    columns->Add(createTreeColumn(), 2, wxEXPAND);
+    columns->Add(createTagColumn(), 5, wxEXPAND | wxLEFT, FromDIP(1));
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(columns, 1, wxEXPAND);
     createGroupFilters(*sizer);
@@ -45,6 +49,7 @@ wxSizer* SourceBrowserBase::createTreeColumn()
     sourceTree = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                 wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT | wxBORDER_NONE);
     sourceTree->SetFont(theme::semibold(12));
+    sourceTree->SetMinSize(FromDIP(wxSize(treeWidth, -1)));
     panelControls::dress(*sourceTree, theme::contentText, theme::contentBackground);
     auto* const column = new wxBoxSizer(wxVERTICAL);
     column->Add(titleRow, 0, wxEXPAND);
@@ -71,14 +76,16 @@ wxPanel* SourceBrowserBase::createDatabaseRow()
     buttonSizer = new wxBoxSizer(wxHORIZONTAL);
     sizer.Add(buttonSizer, 0, wxALIGN_CENTRE_VERTICAL);
     sizer.AddStretchSpacer();
-    sizer.Add(panelControls::createText(row, "Filter", theme::regular(11), theme::contentText), 0,
-              wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(6));
+    auto* const filter = new wxBoxSizer(wxHORIZONTAL);
+    filter->Add(panelControls::createText(row, "Filter", theme::regular(11), theme::contentText), 0,
+                wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, FromDIP(6));
     sourceFilter = new wxTextCtrl(row, wxID_ANY);
     sourceFilter->SetFont(theme::regular(10));
     panelControls::dress(*sourceFilter, theme::filterText, theme::contentBackground);
     sourceFilter->SetToolTip("Tagname and Description filter");
-    sourceFilter->SetMinSize(FromDIP(wxSize(filterWidth, -1)));
-    sizer.Add(sourceFilter, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
+    sourceFilter->SetMinSize(wxSize(FromDIP(filterWidth), desktop::fieldHeight(*sourceFilter)));
+    filter->Add(sourceFilter, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
+    sizer.Add(filter, 1, wxALIGN_CENTRE_VERTICAL);
     return row;
 }
 
@@ -88,7 +95,7 @@ void SourceBrowserBase::createGroupFilters(wxSizer& column)
     column.Add(panelControls::createText(this, "Group Filters", theme::semibold(14), theme::title), 0, wxLEFT | wxTOP,
                FromDIP(8));
     groupFilters = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
-    groupFilters->SetScrollRate(0, FromDIP(panelControls::rowHeight));
+    groupFilters->SetScrollRate(0, panelControls::rowHeight(*this));
     groupFilters->SetMinSize(FromDIP(wxSize(-1, groupFilterHeight)));
     panelControls::dress(*groupFilters, theme::groupDescription, theme::contentBackground);
     groupFilterSizer = new wxFlexGridSizer(2, 0, 0);

@@ -96,6 +96,11 @@ wxFont semibold(int points)
     return face("Segoe UI Semibold", points, wxFONTWEIGHT_SEMIBOLD);
 }
 
+wxFont cell()
+{
+    return regular(10);
+}
+
 wxFont columnTitle()
 {
     return regular(8);

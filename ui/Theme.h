@@ -59,6 +59,9 @@ wxFont regular(int points);
 /// @param points  size in points
 wxFont semibold(int points);
 
+/// The font of the cells of a grid.
+wxFont cell();
+
 /// The font of the titles above the columns of a grid.
 wxFont columnTitle();
 

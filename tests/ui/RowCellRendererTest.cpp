@@ -65,7 +65,8 @@ private:
 
 bool samePicture(const wxImage& one, const wxImage& other)
 {
-    return std::memcmp(one.GetData(), other.GetData(), cellWidth * cellHeight * 3) == 0;
+    constexpr std::size_t pixels = std::size_t(cellWidth) * cellHeight;
+    return std::memcmp(one.GetData(), other.GetData(), pixels * 3) == 0;
 }
 
 } // namespace
