@@ -1,21 +1,30 @@
 #pragma once
 
 #include "json/TolerantJson.h"
+#include "source/GroupListReader.h"
+#include "source/StructureReader.h"
 #include "source/TagDatabase.h"
+#include "source/TagListReader.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
-/// Builds groups, structure tree and tags while the file is being read, so that no copy of the file is kept.
+/// Builds groups, structure tree and tags while the file is being read, so that no copy of the file is kept: one of
+/// 200 MB takes no more memory than its text and what comes out of it.
 ///
-/// A member that its object has several times counts with its last value. A value of an unfitting kind reads as the
-/// empty text or 0, and has neither elements nor members. Groups and tags of the reserved mask are left out, and so are
-/// tags beyond 65,536 and structure nodes more than 1,000 levels below the root.
+/// The file's root is an object whose lists are told to their readers; a root of any other kind has no lists. A member
+/// that its object has several times counts with its last value. A value of an unfitting kind reads as the empty text
+/// or 0, and has neither elements nor members.
 class TagDatabaseBuilder : public JsonEvents
 {
 public:
+    TagDatabaseBuilder() = default;
+
+    // The readers refer to the database beside them.
+    TagDatabaseBuilder(const TagDatabaseBuilder&) = delete;
+    TagDatabaseBuilder& operator=(const TagDatabaseBuilder&) = delete;
+
     void beginDocument() override;
     void beginObject() override;
     void endObject() override;
@@ -25,25 +34,12 @@ public:
     void text(std::string_view content) override;
     void literal() override;
 
-    TagDatabase database;      ///< what was built
-    bool hasStructure = false; ///< the root has the member "structure"
-    bool hasLable = false;     ///< its first element has the member "lable"
-    bool hasDatabase = false;  ///< the root has the member "database"
+    TagDatabase database; ///< what was built
+    GroupListReader groups{database.groups};
+    StructureReader structure{database.structure};
+    TagListReader tags{database.tags};
 
 private:
-    /// What an open object or array of the file is for.
-    enum class Role
-    {
-        Root,
-        GroupList,
-        Group,
-        RootNodeList,
-        NodeList,
-        Node,
-        TagList,
-        Tag
-    };
-
     enum class Kind
     {
         Object,
@@ -52,23 +48,25 @@ private:
         Literal
     };
 
+    /// Depth of the objects and arrays that have a meaning. Lists and their elements take turns below the root, so an
+    /// even level above 0 is a list, an odd one above 1 an element.
+    enum Level : std::size_t
+    {
+        Outside,
+        Root,
+        List
+    };
+
     void value(Kind kind, std::string_view content);
     void rootMember(Kind kind);
-    void groupMember(Kind kind, std::string_view content);
-    void nodeMember(Kind kind, std::string_view content);
-    void tagMember(Kind kind, std::string_view content);
-    void beginElement(Role list, Kind kind);
-    void endElement(Role element);
-    void appendTag();
-    void open(Kind kind, Kind wanted, Role role);
+    void listElement(Kind kind);
+    void elementMember(Kind kind, std::string_view content);
+    void open(Kind kind, Kind wanted);
     void ignore(Kind kind);
     void close();
 
-    std::vector<Role> openRoles;
-    std::size_t ignoredDepth = 0; ///< open objects and arrays that mean nothing here
-    std::size_t keyIndex = 0;     ///< of the last key, among the names that its object is searched for
-    std::vector<int> openNodes;   ///< the structure nodes from the root down to the one being read
-    TagRecord tag;                ///< the tag being read, without its texts
-    std::string tagName;          ///< its name
-    std::string tagDescription;   ///< its description
+    std::size_t level = Outside;
+    std::size_t ignoredDepth = 0; ///< open objects and arrays, inside that level, that mean nothing here
+    std::string memberName;       ///< of the value that follows
+    ListReader* list = nullptr;   ///< reads the list that is open at level 2
 };

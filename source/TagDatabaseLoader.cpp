@@ -14,12 +14,12 @@ namespace
 LoadResult takeOver(TagDatabaseBuilder& built, TagDatabase& database)
 {
     database.groups = std::move(built.database.groups);
-    if (!built.hasStructure)
+    if (!built.structure.isPresent())
         return LoadResult::StructureMissing;
-    if (!built.hasLable)
+    if (!built.structure.hasLable())
         return LoadResult::LableMissing;
     database.structure = std::move(built.database.structure);
-    if (!built.hasDatabase)
+    if (!built.tags.isPresent())
         return LoadResult::DatabaseMissing;
     database.tags = std::move(built.database.tags);
     return LoadResult::Loaded;

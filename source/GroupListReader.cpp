@@ -1,0 +1,40 @@
+#include "source/GroupListReader.h"
+
+#include "text/Integers.h"
+
+#include <array>
+
+namespace
+{
+
+// A mask that the file gives as a number is read like one that it gives as text: from its decimal digits, 16 is 0x16.
+constexpr std::array<Member<TagGroup>, 4> members{{
+    {"mask", [](TagGroup& group, std::string_view content) { group.mask = parseHexadecimal(content); }},
+    {"flag", [](TagGroup& group, std::string_view content) { group.flag = content; }},
+    {"type", [](TagGroup& group, std::string_view content) { group.type = content; }},
+    {"desc", [](TagGroup& group, std::string_view content) { group.description = content; }},
+}};
+
+} // namespace
+
+bool GroupListReader::beginElement()
+{
+    groups.emplace_back();
+    return true;
+}
+
+void GroupListReader::member(std::string_view name, std::string_view content)
+{
+    takeMember(members, groups.back(), name, content);
+}
+
+void GroupListReader::endElement()
+{
+    if (groups.back().mask == reservedMask)
+        groups.pop_back();
+}
+
+void GroupListReader::clear()
+{
+    groups.clear();
+}

@@ -1,0 +1,61 @@
+#include "source/StructureReader.h"
+
+#include <array>
+#include <cstddef>
+
+namespace
+{
+
+/// The toolkit's tree control (3.2) calls itself once for each level when it expands and paints, and the stack is 1 MB
+/// on Windows. No plant is this deep.
+constexpr std::size_t deepestLevel = 1000;
+
+// "lable" is how the files spell it; "label" is another member and means nothing.
+constexpr std::string_view lable = "lable";
+constexpr std::string_view children = "structure";
+
+constexpr std::array<Member<StructureNode>, 2> members{{
+    {lable, [](StructureNode& node, std::string_view content) { node.label = content; }},
+    {"dbprefix", [](StructureNode& node, std::string_view content) { node.dbPrefix = content; }},
+}};
+
+} // namespace
+
+bool StructureReader::beginElement()
+{
+    const bool isRoot = openNodes.empty();
+    if (isRoot && !nodes.empty())
+        return false;
+    const int parent = isRoot ? -1 : openNodes.back();
+    openNodes.push_back(static_cast<int>(nodes.size()));
+    nodes.push_back({{}, {}, parent});
+    return true;
+}
+
+void StructureReader::member(std::string_view name, std::string_view content)
+{
+    const auto index = static_cast<std::size_t>(openNodes.back());
+    takeMember(members, nodes[index], name, content);
+    if (name == lable && index == 0)
+        rootHasLable = true;
+    // Nodes stand in the order of the file, so whatever follows this one now came from an earlier list of children.
+    if (name == children)
+        nodes.resize(index + 1);
+}
+
+bool StructureReader::holdsChildren(std::string_view memberName) const
+{
+    return memberName == children && openNodes.size() <= deepestLevel;
+}
+
+void StructureReader::endElement()
+{
+    openNodes.pop_back();
+}
+
+void StructureReader::clear()
+{
+    nodes.clear();
+    openNodes.clear();
+    rootHasLable = false;
+}

@@ -1,0 +1,68 @@
+#include "source/TagListReader.h"
+
+#include "json/JsonNumber.h"
+#include "source/TagDatabase.h"
+
+#include <array>
+#include <cstdint>
+
+namespace
+{
+
+/// The type that the word stands for. Any other word leaves the code of an unused record, which is that of "Integer".
+TagType typeOf(std::string_view word)
+{
+    if (word == "Numeric")
+        return TagType::Numeric;
+    if (word == "String")
+        return TagType::String;
+    return TagType::Integer;
+}
+
+std::int32_t signedNumber(std::string_view content)
+{
+    return static_cast<std::int32_t>(wholeNumberBits(content));
+}
+
+// A size keeps its low 8 bits, the other numbers their low 32: that much room a tag has for them.
+constexpr std::array<Member<UnfinishedTag>, 7> members{{
+    {"Name", [](UnfinishedTag& tag, std::string_view content) { tag.name = content; }},
+    {"Description", [](UnfinishedTag& tag, std::string_view content) { tag.description = content; }},
+    {"Type", [](UnfinishedTag& tag, std::string_view content) { tag.record.type = typeOf(content); }},
+    {"Size", [](UnfinishedTag& tag, std::string_view content)
+     { tag.record.size = static_cast<std::uint8_t>(wholeNumberBits(content)); }},
+    {"Elements", [](UnfinishedTag& tag, std::string_view content) { tag.record.elements = signedNumber(content); }},
+    {"Attributes", [](UnfinishedTag& tag, std::string_view content) { tag.record.attributes = signedNumber(content); }},
+    {"Groups", [](UnfinishedTag& tag, std::string_view content) { tag.record.groups = wholeNumberBits(content); }},
+}};
+
+} // namespace
+
+bool TagListReader::beginElement()
+{
+    tag.record = {};
+    tag.name.clear();
+    tag.description.clear();
+    return true;
+}
+
+void TagListReader::member(std::string_view name, std::string_view content)
+{
+    takeMember(members, tag, name, content);
+}
+
+void TagListReader::endElement()
+{
+    // Texts are kept for the life of the program once they are interned, so those of tags that are left out must not
+    // be.
+    if (tag.record.groups == reservedMask || tags.count() == tagCapacity)
+        return;
+    tag.record.name = InternedText(tag.name);
+    tag.record.description = InternedText(tag.description);
+    tags.append(tag.record);
+}
+
+void TagListReader::clear()
+{
+    tags.clear();
+}
