@@ -34,6 +34,9 @@ public:
     /// "fsync file" and "fsync folder" tell what is flushed.
     std::vector<std::string> made;
 
+    /// What was flushed, in this order.
+    std::vector<ino_t> flushed;
+
     int open(const char* path, int flags, mode_t mode) override
     {
         const bool unnamed = (flags & O_TMPFILE) == O_TMPFILE;
@@ -73,7 +76,10 @@ public:
     }
     int fsync(int descriptor) override
     {
-        return fails(isFolder(descriptor) ? "fsync folder" : "fsync file") ? -1 : 0; // without waiting for the disk
+        struct stat state = {};
+        ::fstat(descriptor, &state);
+        flushed.push_back(state.st_ino);
+        return fails(S_ISDIR(state.st_mode) ? "fsync folder" : "fsync file") ? -1 : 0; // without waiting for the disk
     }
     int ftruncate(int descriptor, off_t size) override
     {
@@ -131,12 +137,5 @@ protected:
         else
             return false;
         return true;
-    }
-
-private:
-    static bool isFolder(int descriptor)
-    {
-        struct stat state = {};
-        return ::fstat(descriptor, &state) == 0 && S_ISDIR(state.st_mode);
     }
 };

@@ -140,6 +140,15 @@ TEST_F(SafeWrite, LongestPossibleFileNameIsWritten)
     EXPECT_EQ(contents(path), "two");
 }
 
+TEST_F(SafeWrite, NameIsTheBytesThatTheSystemGave)
+{
+    const fs::path path = folder / "pl\xe4nt.csv";
+    EXPECT_TRUE(writeFileSafely(path, "one"));
+    EXPECT_TRUE(writeFileSafely(path, "two"));
+    EXPECT_EQ(contents(path), "two");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
+}
+
 TEST_F(SafeWrite, MissingFolderIsRefused)
 {
     EXPECT_FALSE(writeFileSafely(folder / "missing" / "map.csv", "new"));
