@@ -1,8 +1,8 @@
 #include "files/posix/Exchange.h"
 
+#include "files/StrayNames.h"
 #include "files/posix/FileBytes.h"
 #include "files/posix/FreshFile.h"
-#include "files/posix/LinkedFile.h"
 #include "files/posix/OpenFile.h"
 
 namespace fs = std::filesystem;
@@ -19,12 +19,15 @@ void flushFolder(FileSystemCalls& calls, const fs::path& folder)
 }
 
 Exchange exchangeThrough(FreshFile::Kind kind, FileSystemCalls& calls, const fs::path& target, const OldFile* old,
-                         std::string_view bytes)
+                         std::string_view bytes, Access access)
 {
     constexpr mode_t everybody = 0666; // the system takes the umask off
     constexpr mode_t onlyMe = 0600;    // until the old permissions are taken over
     FreshFile fresh(calls, target, kind, old == nullptr ? everybody : onlyMe);
-    if (!fresh.isOpen() || (old != nullptr && !takeOverAccess(calls, fresh.descriptor(), *old)))
+    if (!fresh.isOpen())
+        return Exchange::Refused;
+    const bool accessKept = old == nullptr || takeOverAccess(calls, fresh.descriptor(), *old);
+    if (!accessKept && access == Access::MustBeKept)
         return Exchange::Refused;
     if (!writeAll(calls, fresh.descriptor(), bytes) || calls.fsync(fresh.descriptor()) != 0)
         return Exchange::Failed;
@@ -36,10 +39,11 @@ Exchange exchangeThrough(FreshFile::Kind kind, FileSystemCalls& calls, const fs:
 
 } // namespace
 
-Exchange exchangeFile(FileSystemCalls& calls, const fs::path& target, const OldFile* old, std::string_view bytes)
+Exchange exchangeFile(FileSystemCalls& calls, const fs::path& target, const OldFile* old, std::string_view bytes,
+                      Access access)
 {
-    const Exchange unnamed = exchangeThrough(FreshFile::Kind::Unnamed, calls, target, old, bytes);
+    const Exchange unnamed = exchangeThrough(FreshFile::Kind::Unnamed, calls, target, old, bytes, access);
     if (unnamed != Exchange::Refused)
         return unnamed;
-    return exchangeThrough(FreshFile::Kind::Named, calls, target, old, bytes);
+    return exchangeThrough(FreshFile::Kind::Named, calls, target, old, bytes, access);
 }

@@ -14,9 +14,17 @@ enum class Exchange
     Failed   ///< the bytes did not get to the disk
 };
 
+/// What becomes of a fresh file that cannot be given the access of the one that it is made after.
+enum class Access
+{
+    MustBeKept,    ///< the exchange is refused
+    AsFarAsAllowed ///< it may be opened by its owner alone
+};
+
 /// Writes `bytes` into a fresh file beside `target`, flushes it to the disk and lets it take the name in one step.
 /// @param target  no symbolic link
-/// @param old     the file to be replaced; null when there is none
+/// @param old     the file whose access the fresh one gets, most often the one to be replaced; null gives it that of
+///                any new file
 /// @return anything but Done: the target is as it was and no other file was left
 Exchange exchangeFile(FileSystemCalls& calls, const std::filesystem::path& target, const OldFile* old,
-                      std::string_view bytes);
+                      std::string_view bytes, Access access = Access::MustBeKept);

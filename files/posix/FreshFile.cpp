@@ -1,6 +1,6 @@
 #include "files/posix/FreshFile.h"
 
-#include "files/posix/LinkedFile.h"
+#include "files/StrayNames.h"
 #include "files/posix/Strays.h"
 
 #include <cerrno>
@@ -10,7 +10,7 @@
 namespace fs = std::filesystem;
 
 FreshFile::FreshFile(FileSystemCalls& systemCalls, fs::path target, Kind kind, mode_t mode)
-    : calls(systemCalls), finalName(std::move(target)), ownName(strayName(finalName)),
+    : calls(systemCalls), finalName(std::move(target)), ownName(freshName(finalName)),
       file(calls, kind == Kind::Unnamed ? folderOf(finalName) : ownName,
            kind == Kind::Unnamed ? O_WRONLY | O_TMPFILE : O_WRONLY | O_CREAT | O_EXCL, mode),
       hasOwnName(kind == Kind::Named && file.isOpen())

@@ -20,8 +20,3 @@ std::optional<fs::path> linkedFile(FileSystemCalls& calls, fs::path path)
     }
     return std::nullopt;
 }
-
-fs::path folderOf(const fs::path& file)
-{
-    return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}

@@ -8,6 +8,3 @@
 /// Follows symbolic links by name, also to where nothing exists yet.
 /// @return the first name that is no link, or nothing when the links cannot be read or are too many
 std::optional<std::filesystem::path> linkedFile(FileSystemCalls& calls, std::filesystem::path path);
-
-/// The folder that a file lies in: the working directory when its path names none.
-std::filesystem::path folderOf(const std::filesystem::path& file);

@@ -137,7 +137,7 @@ TEST_F(SafeWriteFaults, FileWithMoreNamesThanOneIsWhollyOldOrWhollyNew)
 
 TEST_F(SafeWriteFaults, StrayOfAnEarlierWriteDoesNoHarmWhenItCannotBeCleared)
 {
-    const fs::path stray = strayName(file());
+    const fs::path stray = freshName(file());
     FaultyCalls calls;
     for (const char* const call : {"flock", "unlink"})
     {

@@ -92,7 +92,7 @@ TEST_F(SafeWriteStrays, StrayIsClearedWhereItsTargetIsRewrittenInPlace)
 {
     folder.write("map.csv", "old");
     fs::create_hard_link(file, folder / "same");
-    std::ofstream(strayName(file)) << "half of it";
+    std::ofstream(freshName(file)) << "half of it";
     EXPECT_TRUE(writeFileSafely(file, "new"));
     EXPECT_EQ(strays(), 0);
 }
@@ -101,14 +101,14 @@ TEST_F(SafeWriteStrays, StrayIsClearedBesideTheFileThatALinkLeadsTo)
 {
     fs::create_directory(folder / "elsewhere");
     fs::create_symlink("elsewhere/map.csv", file);
-    std::ofstream(strayName(folder / "elsewhere" / "map.csv")) << "half of it";
+    std::ofstream(freshName(folder / "elsewhere" / "map.csv")) << "half of it";
     EXPECT_TRUE(writeFileSafely(file, "new"));
     EXPECT_EQ(strays(), 0);
 }
 
 TEST_F(SafeWriteStrays, StraysOfOtherFilesStay)
 {
-    const fs::path other = strayName(folder / "other.csv");
+    const fs::path other = freshName(folder / "other.csv");
     std::ofstream(other) << "somebody may need it";
     EXPECT_TRUE(writeFileSafely(file, "new"));
     EXPECT_TRUE(fs::remove(other));
@@ -116,7 +116,7 @@ TEST_F(SafeWriteStrays, StraysOfOtherFilesStay)
 
 TEST_F(SafeWriteStrays, FilesWithSimilarNamesStay)
 {
-    const std::string stray = strayName(file).string();
+    const std::string stray = freshName(file).string();
     std::string notHexadecimal = stray;
     notHexadecimal.back() = 'g';
     for (const std::string& name : {stray + "0", stray.substr(0, stray.size() - 1), notHexadecimal})
@@ -129,7 +129,7 @@ TEST_F(SafeWriteStrays, FilesWithSimilarNamesStay)
 
 TEST_F(SafeWriteStrays, FileThatAnotherProgramIsWritingStays)
 {
-    const fs::path stray = strayName(file);
+    const fs::path stray = freshName(file);
     const int writer = open(stray.c_str(), O_WRONLY | O_CREAT, 0600);
     ASSERT_EQ(flock(writer, LOCK_EX), 0);
     EXPECT_TRUE(writeFileSafely(file, "new"));
@@ -160,7 +160,7 @@ TEST_F(SafeWriteStrays, FreshFileIsInUseWhileItIsWritten)
 TEST_F(SafeWriteStrays, LinkWithTheNameOfAStrayIsNotFollowed)
 {
     const fs::path precious = folder.write("precious", "not to be touched");
-    const fs::path stray = strayName(file);
+    const fs::path stray = freshName(file);
     fs::create_symlink(precious, stray);
     EXPECT_TRUE(writeFileSafely(file, "new"));
     EXPECT_EQ(contents(precious), "not to be touched");
