@@ -25,8 +25,9 @@ std::string hexadecimal(std::uint64_t number)
 /// What the strays of a target's name begin with. The same for ever (FNV-1a), so that a later version knows its own.
 std::string strayPrefix(const fs::path& target)
 {
+    const fs::path name = target.filename();
     std::uint64_t hash = 0xcbf29ce484222325U;
-    for (const fs::path::value_type c : target.filename().native())
+    for (const fs::path::value_type c : name.native())
         hash = (hash ^ static_cast<std::make_unsigned_t<fs::path::value_type>>(c)) * 0x100000001b3U;
     return ".saving-" + hexadecimal(hash) + '-';
 }
