@@ -81,6 +81,7 @@ private:
     std::vector<int> selectedAddresses() const;
     std::vector<int> collectSelection() const;
     void reselectAddresses(std::vector<int> addresses);
+    void followMove(MoveDirection direction);
     void showMapContextMenu(wxMouseEvent& event);
     bool saveDefinition();
 

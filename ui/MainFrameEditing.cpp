@@ -104,6 +104,7 @@ void MainFrame::moveRegisters(bool shoving, MoveDirection direction)
     }
     // The moved registers stay selected, so that the next key moves them on.
     reselectAddresses(result.positions);
+    followMove(direction);
 }
 
 void MainFrame::compressRegisters()

@@ -8,6 +8,7 @@
 #include "ui/SpaceButtons.h"
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
+#include "ui/grid/GridScrolling.h"
 #include "ui/grid/GridSelection.h"
 #include "ui/grid/MapGridTable.h"
 
@@ -16,21 +17,6 @@
 #include <wx/stattext.h>
 
 #include <algorithm>
-
-namespace
-{
-
-/// Scrolls a grid until a row is the first one seen, as far as rows below it allow.
-void scrollToTop(wxGrid& grid, int row)
-{
-    grid.MakeCellVisible(row, 0);
-    int unit = 0;
-    grid.GetScrollPixelsPerUnit(nullptr, &unit);
-    if (unit > 0)
-        grid.Scroll(wxDefaultCoord, row * grid.GetRowSize(row) / unit);
-}
-
-} // namespace
 
 void MainFrame::refreshMapView(int scrollAddress)
 {
@@ -118,8 +104,15 @@ void MainFrame::reselectAddresses(std::vector<int> addresses)
     mapGrid->ClearSelection();
     addToSelection(*mapGrid, rows);
     if (!addresses.empty() && mapTable->rowOf(addresses.front()))
-        mapGrid->SetGridCursor(rows.front(), 0);
+        setCursorWithoutScrolling(*mapGrid, rows.front());
     refreshing = false;
+}
+
+void MainFrame::followMove(MoveDirection direction)
+{
+    const std::vector<int> rows = selectedRows(*mapGrid);
+    if (!rows.empty())
+        bringIntoView(*mapGrid, direction == MoveDirection::Up ? rows.front() : rows.back());
 }
 
 void MainFrame::selectAllRegisters()

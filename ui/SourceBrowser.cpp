@@ -5,6 +5,7 @@
 #include "ui/SourceTreeItem.h"
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
+#include "ui/grid/GridScrolling.h"
 #include "ui/grid/GridSelection.h"
 #include "ui/grid/TagGridTable.h"
 
@@ -105,6 +106,7 @@ TagFilter SourceBrowser::currentFilter() const
 void SourceBrowser::refreshTags()
 {
     table->show(filterTags(database.tags, searchIndex, currentFilter()));
+    goToFirstRow(*sourceGrid);
 }
 
 std::vector<int> SourceBrowser::selectedTags() const
