@@ -16,6 +16,7 @@ std::optional<unsigned> escapedUnit(std::string_view text)
     if (text.size() < unitLength || !text.starts_with("\\u"))
         return std::nullopt;
     unsigned unit = 0;
+    // It takes neither a sign nor "0x" nor a blank, so four digits are four digits.
     const char* const end = text.data() + unitLength;
     const auto [stop, error] = std::from_chars(text.data() + 2, end, unit, 16);
     if (error != std::errc() || stop != end)
@@ -27,10 +28,12 @@ std::optional<unsigned> escapedUnit(std::string_view text)
 
 std::size_t escapeLength(std::string_view text)
 {
+    // No other letter means anything: "\x41" and "\'" are C, not JSON.
     constexpr std::string_view plain = "\"\\/bfnrt";
     if (text.size() >= 2 && plain.find(text[1]) != std::string_view::npos)
         return 2;
     const auto unit = escapedUnit(text);
+    // A second half that no first one leads is no character.
     if (!unit || isLowSurrogate(*unit))
         return 0;
     if (!isHighSurrogate(*unit))

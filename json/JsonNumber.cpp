@@ -1,10 +1,11 @@
 #include "json/JsonNumber.h"
 
+#include "text/Characters.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstddef>
 #include <optional>
 
 namespace
@@ -64,6 +65,7 @@ std::optional<double> unsignedValue(std::string_view text)
     // The library would also take "inf", "nan" and a minus.
     if (text.empty() || (text.front() != '.' && !isDigit(text.front())))
         return std::nullopt;
+    // In the "C" locale whatever the user's language, which std::strtod would follow.
     double value = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value);
@@ -74,6 +76,7 @@ std::optional<double> unsignedValue(std::string_view text)
 
 std::uint32_t lowBits(double value)
 {
+    // Taken modulo first: a larger value must not be converted, which is undefined.
     constexpr double twoToThe32 = 4294967296.0;
     return static_cast<std::uint32_t>(std::fmod(std::trunc(value), twoToThe32));
 }
@@ -96,14 +99,15 @@ std::string decimalText(std::string_view number)
     std::string_view magnitude = number;
     const bool negative = take(magnitude, '-');
     if (magnitude == "0")
-        return "0";
+        return "0"; // "-0" too: a text that a person reads
+    // A serial number of 20 digits would lose its last ones as a floating-point number.
     if (std::ranges::all_of(magnitude, isDigit))
         return std::string(number);
     const auto value = unsignedValue(magnitude);
     if (!value)
-        return {};
+        return {}; // writing all digits of 1e999999999 out would fill the memory
     if (*value == 0)
-        return "0";
+        return "0"; // without the sign that a floating-point zero may have
     // The smallest numbers are the longest: "0.", 323 zeros and up to 17 digits.
     std::array<char, 400> text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), *value, std::chars_format::fixed).ptr;
@@ -115,9 +119,7 @@ std::uint32_t wholeNumberBits(std::string_view text)
     // Nearly all numbers of a file are digits and nothing else.
     if (const auto bits = lowBitsOfDigits(text))
         return *bits;
-    constexpr std::string_view blanks = " \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    text = text.substr(0, text.find_last_not_of(blanks) + 1);
+    text = withoutOuterBlanks(text);
     const bool negative = take(text, '-');
     if (!negative)
         take(text, '+');

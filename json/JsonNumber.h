@@ -17,6 +17,6 @@ std::string decimalText(std::string_view number);
 /// Reads a decimal number, which may have a sign, a fraction and an exponent, with blanks around it.
 ///
 /// Whole numbers may have any length; one with a fraction or an exponent is as exact as a floating-point number.
-/// @return the low 32 bits of its whole part, negative numbers in two's complement; 0 when the text is no number or
+/// @return the low 32 bits of its whole part, negative numbers in two's complement; 0 when the text is not a number or
 ///         one that is out of a floating-point number's range
 std::uint32_t wholeNumberBits(std::string_view text);

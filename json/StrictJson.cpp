@@ -1,86 +1,55 @@
 #include "json/StrictJson.h"
 
-#include "json/JsonEscape.h"
-#include "json/JsonNumber.h"
+#include "json/JsonScanner.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
+#include <string_view>
+
+// What may stand where, and what is written for it ("-": the text is refused):
+//
+//   place         value         string           comma               colon          closing bracket
+//   -----------   -----------   --------------   -----------------   ------------   -----------------
+//   Root          done          done             -                   -              -
+//   ArrayStart    done          done             null, ArrayNext     -              done
+//   ArrayNext     "," done      "," done         ",null" ArrayNext   -              comma lost, done
+//   ObjectStart   -             key, Colon       -                   -              done
+//   ObjectNext    -             "," key, Colon   -                   -              comma lost, done
+//   Colon         -             joins the key    -                   MemberValue    -
+//   MemberValue   done          done             null, ObjectNext    -              null, done
+//   AfterValue    -             joins a string   ...Next             -              done
+//   End           -             joins a string   -                   -              -
+//
+// "done" leads to AfterValue inside brackets and to End outside; "...Next" is ArrayNext or ObjectNext, by the innermost
+// bracket. An opening bracket begins a value and leads to ArrayStart or ObjectStart. A string joins only a string that
+// is the token right before it. A text that ends anywhere but at End is refused.
 
 namespace
 {
-
-/// Line ends are gone by now, and other blanks are none to JSON.
-bool isJsonBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-/// True for what ends a number or a literal.
-bool endsWord(char c)
-{
-    return isJsonBlank(c) || std::string_view("{}[],:\"/").find(c) != std::string_view::npos;
-}
-
-bool isControlCharacter(char c)
-{
-    return static_cast<unsigned char>(c) < 0x20;
-}
-
-/// True for what does not stand for itself inside a string.
-bool isSpecialInString(char c)
-{
-    return c == '"' || c == '\\' || isControlCharacter(c);
-}
-
-char lowerCase(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// The literal that the word is in some letter case, or the empty text.
-std::string_view literalOf(std::string_view word)
-{
-    constexpr std::array<std::string_view, 3> literals{"true", "false", "null"};
-    for (const std::string_view literal : literals)
-    {
-        if (std::ranges::equal(word, literal, {}, lowerCase))
-            return literal;
-    }
-    return {};
-}
-
-/// True for a number whose exponent or length may take it out of the range of a floating-point number.
-bool mayBeOutOfRange(std::string_view number)
-{
-    constexpr std::size_t safeLength = 300;
-    return number.size() > safeLength || number.find_first_of("eE") != std::string_view::npos;
-}
 
 /// Goes through the text token by token; open brackets are kept in a text of their own, so any depth will do.
 class Rewriter
 {
 public:
-    explicit Rewriter(std::string_view joined) : text(joined) { strict.reserve(text.size()); }
+    explicit Rewriter(std::string_view joined) : scanner(joined) { strict.reserve(joined.size()); }
 
     std::optional<std::string> rewrite()
     {
         for (;;)
         {
-            if (!skipBlanks())
-                return std::nullopt;
-            if (position == text.size())
+            const JsonToken token = scanner.next();
+            if (token == JsonToken::End)
                 break;
-            if (!takeToken())
+            if (!take(token))
                 return std::nullopt;
+            afterString = token == JsonToken::String;
         }
+        // Still open, or nothing but blanks.
         if (place != Place::End)
             return std::nullopt;
         return std::move(strict);
     }
 
 private:
-    /// Where the next token stands. A comma is written together with what follows it.
+    /// Where the next token stands. A comma is written together with what follows it: it may have to be dropped.
     enum class Place
     {
         Root,
@@ -94,11 +63,8 @@ private:
         End
     };
 
-    bool skipBlanks();
-    bool takeToken();
+    bool take(JsonToken token);
     bool takeString();
-    bool takeContent();
-    void appendEscaped(char controlCharacter);
     bool takeWord();
     bool openBracket(char bracket);
     bool closeBracket(char bracket);
@@ -108,67 +74,37 @@ private:
     void beginKey();
     void endValue();
 
-    std::string_view text;
-    std::size_t position = 0;
+    JsonScanner scanner;
     std::string strict;
     std::string openBrackets;
     Place place = Place::Root;
-    bool behindString = false; ///< the last token was a string, which a further string continues
+    bool afterString = false; ///< the last token was a string, which a further string continues
 };
 
-/// @return false when a comment is not closed
-bool Rewriter::skipBlanks()
+bool Rewriter::take(JsonToken token)
 {
-    constexpr auto none = std::string_view::npos;
-    for (;;)
+    switch (token)
     {
-        while (position < text.size() && isJsonBlank(text[position]))
-            ++position;
-        const std::string_view ahead = text.substr(position, 2);
-        if (ahead == "//")
-        {
-            position = text.size();
-        }
-        else if (ahead == "/*")
-        {
-            const std::size_t end = text.find("*/", position + 2);
-            if (end == none)
-                return false;
-            position = end + 2;
-        }
-        else
-        {
-            return true;
-        }
-    }
-}
-
-bool Rewriter::takeToken()
-{
-    const char c = text[position];
-    if (c == '"')
-        return takeString();
-    behindString = false;
-    switch (c)
-    {
-    case '{':
-    case '[':
-        return openBracket(c);
-    case '}':
-    case ']':
-        return closeBracket(c);
-    case ',':
+    case JsonToken::OpenBracket:
+        return openBracket(scanner.strictText().front());
+    case JsonToken::CloseBracket:
+        return closeBracket(scanner.strictText().front());
+    case JsonToken::Comma:
         return takeComma();
-    case ':':
+    case JsonToken::Colon:
         return takeColon();
-    default:
+    case JsonToken::String:
+        return takeString();
+    case JsonToken::Word:
         return takeWord();
+    default:
+        return false;
     }
 }
 
 bool Rewriter::takeString()
 {
-    if (behindString)
+    if (afterString)
     {
         strict.pop_back(); // the quote that closed the string before
     }
@@ -181,76 +117,20 @@ bool Rewriter::takeString()
     {
         if (!beginValue())
             return false;
-        endValue();
         strict += '"';
+        endValue();
     }
-    ++position;
-    if (!takeContent())
-        return false;
+    strict += scanner.strictText();
     strict += '"';
-    behindString = true;
     return true;
-}
-
-/// Takes the inside of a string and the quote that closes it.
-/// @return false when the string is not closed, or holds an escape that is not whole
-bool Rewriter::takeContent()
-{
-    for (;;)
-    {
-        const auto* const start = text.begin() + static_cast<std::ptrdiff_t>(position);
-        const std::string_view plain(start, std::find_if(start, text.end(), isSpecialInString));
-        strict += plain;
-        position += plain.size();
-        if (position == text.size())
-            return false;
-        const char special = text[position];
-        if (special == '"')
-        {
-            ++position;
-            return true;
-        }
-        if (special == '\\')
-        {
-            const std::size_t length = escapeLength(text.substr(position));
-            if (length == 0)
-                return false;
-            strict += text.substr(position, length);
-            position += length;
-        }
-        else
-        {
-            appendEscaped(special);
-            ++position;
-        }
-    }
-}
-
-void Rewriter::appendEscaped(char controlCharacter)
-{
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    const auto code = static_cast<unsigned char>(controlCharacter);
-    strict += "\\u00";
-    strict += digits[code / 16];
-    strict += digits[code % 16];
 }
 
 bool Rewriter::takeWord()
 {
-    const auto* const first = text.begin() + static_cast<std::ptrdiff_t>(position);
-    const auto* const end = std::find_if(first, text.end(), endsWord);
-    const std::string_view word(first, end);
-    const std::string_view literal = literalOf(word);
-    if ((literal.empty() && !isJsonNumber(word)) || !beginValue())
+    if (!beginValue())
         return false;
-    if (!literal.empty())
-        strict += literal;
-    else if (mayBeOutOfRange(word))
-        strict.append(1, '"').append(decimalText(word)).append(1, '"');
-    else
-        strict += word;
+    strict += scanner.strictText();
     endValue();
-    position += word.size();
     return true;
 }
 
@@ -261,7 +141,6 @@ bool Rewriter::openBracket(char bracket)
     strict += bracket;
     openBrackets += bracket;
     place = bracket == '[' ? Place::ArrayStart : Place::ObjectStart;
-    ++position;
     return true;
 }
 
@@ -270,15 +149,17 @@ bool Rewriter::closeBracket(char bracket)
     const char opening = bracket == ']' ? '[' : '{';
     if (!openBrackets.ends_with(opening) || place == Place::Colon)
         return false;
+    // After a comma nothing is written here: that is how one comma too many is dropped.
     if (place == Place::MemberValue)
         strict += "null";
     strict += bracket;
     openBrackets.pop_back();
     endValue();
-    ++position;
     return true;
 }
 
+/// A comma where a value is missing stands for the value null as well. Where a member is missing there is no name that
+/// null could belong to.
 bool Rewriter::takeComma()
 {
     switch (place)
@@ -288,19 +169,17 @@ bool Rewriter::takeComma()
         beginValue();
         strict += "null";
         place = Place::ArrayNext;
-        break;
+        return true;
     case Place::MemberValue:
         strict += "null";
         place = Place::ObjectNext;
-        break;
+        return true;
     case Place::AfterValue:
         place = openBrackets.ends_with('[') ? Place::ArrayNext : Place::ObjectNext;
-        break;
+        return true;
     default:
         return false;
     }
-    ++position;
-    return true;
 }
 
 bool Rewriter::takeColon()
@@ -309,11 +188,10 @@ bool Rewriter::takeColon()
         return false;
     strict += ':';
     place = Place::MemberValue;
-    ++position;
     return true;
 }
 
-/// Writes what goes in front of a value.
+/// Writes what goes before a value.
 /// @return false where no value may stand
 bool Rewriter::beginValue()
 {

@@ -8,9 +8,9 @@
 ///
 /// - Space and tab are the blanks. A comment, "//" to the end of the text or between "/*" and "*/", counts as one.
 /// - true, false and null may be written in any letter case.
-/// - A missing value is null: behind the colon of a member, and in front of a comma of an array.
+/// - A missing value is null: after the colon of a member, and before a comma of an array.
 /// - Strings that follow each other, with nothing but blanks between them, are one string; keys too.
-/// - One comma in front of a closing bracket is dropped and adds no element.
+/// - One comma before a closing bracket is dropped and adds no element.
 /// - Control characters inside strings stand for themselves; they are written as escapes.
 /// - Numbers that may leave the range of a floating-point number are written as strings of their decimal text.
 ///

@@ -14,6 +14,7 @@
 namespace
 {
 
+/// Iterative, because a file may nest a million levels deep: the parser keeps them on the heap then, not on the stack.
 /// Numbers stay texts: whoever wants a number gets the exact bits of a long one too.
 constexpr unsigned parseFlags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
 
@@ -82,7 +83,7 @@ private:
 };
 
 /// True when each escape is whole. The parser lets a low surrogate pass that follows no high one, and would make
-/// bytes of it that are no UTF-8.
+/// bytes of it that are not UTF-8 (RapidJSON 1.1).
 /// @param text  strict JSON, where a backslash stands nowhere but in strings
 bool escapesAreWhole(std::string_view text)
 {
@@ -97,6 +98,7 @@ bool escapesAreWhole(std::string_view text)
     return true;
 }
 
+/// The root has to be an object or an array. The parser would also take a text, a number or a literal.
 bool beginsWithBracket(std::string_view text)
 {
     const std::size_t first = text.find_first_not_of(" \t\r\n");
@@ -108,6 +110,7 @@ bool readStrictJson(const std::string& text, JsonEvents& events)
     // The parser counts with 32 bits.
     if (!beginsWithBracket(text) || text.size() > std::numeric_limits<rapidjson::SizeType>::max())
         return false;
+    // The parser hands its pieces on at once, so a reader may have built half a database before the text proves bad.
     events.beginDocument();
     Forwarder forwarder(events);
     rapidjson::Reader reader;

@@ -7,6 +7,7 @@
 namespace
 {
 
+// The members of a group. "type" is kept, but nothing reads it.
 // A mask that the file gives as a number is read like one that it gives as text: from its decimal digits, 16 is 0x16.
 constexpr std::array<Member<TagGroup>, 4> members{{
     {"mask", [](TagGroup& group, std::string_view content) { group.mask = parseHexadecimal(content); }},
@@ -19,6 +20,7 @@ constexpr std::array<Member<TagGroup>, 4> members{{
 
 bool GroupListReader::beginElement()
 {
+    // An element that is not an object becomes a group too, one without texts and with mask 0.
     groups.emplace_back();
     return true;
 }
@@ -30,6 +32,7 @@ void GroupListReader::member(std::string_view name, std::string_view content)
 
 void GroupListReader::endElement()
 {
+    // Only now: the mask may stand anywhere among the members, and twice.
     if (groups.back().mask == reservedMask)
         groups.pop_back();
 }

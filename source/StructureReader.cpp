@@ -24,6 +24,7 @@ constexpr std::array<Member<StructureNode>, 2> members{{
 bool StructureReader::beginElement()
 {
     const bool isRoot = openNodes.empty();
+    // The tree has one root, so the elements after the first mean nothing.
     if (isRoot && !nodes.empty())
         return false;
     const int parent = isRoot ? -1 : openNodes.back();
@@ -36,6 +37,7 @@ void StructureReader::member(std::string_view name, std::string_view content)
 {
     const auto index = static_cast<std::size_t>(openNodes.back());
     takeMember(members, nodes[index], name, content);
+    // Whether it is there counts, not what it is: null makes a root without text.
     if (name == lable && index == 0)
         rootHasLable = true;
     // Nodes stand in the order of the file, so whatever follows this one now came from an earlier list of children.

@@ -10,9 +10,11 @@
 namespace
 {
 
-/// Takes over what was built, in the order in which failures have to be noticed.
+/// Takes over what was built, in the order in which failures have to be noticed: the file may have its members in any
+/// order, but what stays after a failure is as if groups, structure and tags were read one after the other.
 LoadResult takeOver(TagDatabaseBuilder& built, TagDatabase& database)
 {
+    // The groups come first and have no failure of their own: a file without them has an empty list.
     database.groups = std::move(built.database.groups);
     if (!built.structure.isPresent())
         return LoadResult::StructureMissing;
@@ -29,6 +31,7 @@ LoadResult takeOver(TagDatabaseBuilder& built, TagDatabase& database)
 
 LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& database)
 {
+    // The database is built aside, so that a file that is not JSON costs nothing of what was there.
     auto bytes = readFile(path);
     if (!bytes)
         return LoadResult::FileNotFound;
@@ -47,6 +50,7 @@ LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& datab
 
 std::string_view loadMessage(LoadResult result)
 {
+    // The line ends belong to the texts, and "lable" is how the files spell that member.
     switch (result)
     {
     case LoadResult::Loaded:

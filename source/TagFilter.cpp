@@ -8,6 +8,7 @@
 namespace
 {
 
+/// A mask without bits has none in common with any tag, so checking its group hides all of them.
 bool belongsToAll(const TagRecord& tag, const std::vector<std::uint32_t>& masks)
 {
     return std::ranges::all_of(masks, [&tag](std::uint32_t mask) { return (tag.groups & mask) != 0; });
@@ -42,11 +43,13 @@ std::string_view TagSearchIndex::text(std::size_t index) const
 
 std::vector<int> filterTags(const TagTable& tags, const TagSearchIndex& index, const TagFilter& filter)
 {
+    // No letter has "*" or "?" for its capital: what was typed as a wildcard is one, and nothing else is.
     const std::string pattern = toUpperCase("*" + filter.text + "*");
     std::vector<int> shown;
     for (int tag = 0; tag < tags.count(); ++tag)
     {
         const TagRecord& record = tags[tag];
+        // The prefix comes from the tree, not from a keyboard: its letter case counts.
         if (record.name.view().starts_with(filter.prefix) && belongsToAll(record, filter.checkedMasks) &&
             (matchesWildcard(pattern, index.name(tag)) || matchesWildcard(pattern, index.description(tag))))
             shown.push_back(tag);

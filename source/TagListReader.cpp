@@ -9,7 +9,8 @@
 namespace
 {
 
-/// The type that the word stands for. Any other word leaves the code of an unused record, which is that of "Integer".
+/// The type that the word stands for, in exactly this letter case. "Float" is what the grid shows for "Numeric", and no
+/// word of the file. Any other word leaves the code of an unused record, which is that of "Integer".
 TagType typeOf(std::string_view word)
 {
     if (word == "Numeric")
@@ -24,6 +25,7 @@ std::int32_t signedNumber(std::string_view content)
     return static_cast<std::int32_t>(wholeNumberBits(content));
 }
 
+// The members of a tag. "Attributes" is kept, but nothing reads it.
 // A size keeps its low 8 bits, the other numbers their low 32: that much room a tag has for them.
 constexpr std::array<Member<UnfinishedTag>, 7> members{{
     {"Name", [](UnfinishedTag& tag, std::string_view content) { tag.name = content; }},
@@ -40,6 +42,7 @@ constexpr std::array<Member<UnfinishedTag>, 7> members{{
 
 bool TagListReader::beginElement()
 {
+    // Cleared rather than made anew: the memory of the two texts serves all tags.
     tag.record = {};
     tag.name.clear();
     tag.description.clear();

@@ -9,6 +9,7 @@ namespace
 
 TagCell typeCell(TagType type)
 {
+    // "Float" is what the users call the type that the files call "Numeric".
     switch (type)
     {
     case TagType::Integer:
@@ -18,6 +19,7 @@ TagCell typeCell(TagType type)
     case TagType::String:
         return {"String", TagTone::String};
     }
+    // A code that no word of the files stands for; reading a file never gives one.
     return {"Unknown", TagTone::UnknownType};
 }
 
@@ -30,6 +32,7 @@ std::string flagsText(const std::vector<TagGroup>& groups, std::uint32_t tagGrou
         if ((group.mask & tagGroups) != 0)
             flags += group.flag + "-";
     }
+    // Cut before the last "-", wherever that is: a last group whose name is empty or ends in "-" leaves its mark.
     return flags.substr(0, flags.empty() ? 0 : flags.rfind('-'));
 }
 

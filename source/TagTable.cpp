@@ -21,6 +21,7 @@ bool TagTable::append(const TagRecord& record)
 {
     if (filled == tagCapacity)
         return false;
+    // Among equal names the first one counts, so a name that is there keeps its record.
     std::int32_t& slot = firstByName[slotOf(record.name)];
     if (slot == freeSlot)
         slot = filled;

@@ -14,7 +14,7 @@ constexpr int tagCapacity = 65536;
 
 /// The table of database tags: 65,536 records, of which the first `count` are filled.
 ///
-/// Records behind the filled ones are unused and have the empty name, so the empty name finds the first of them.
+/// Records after the filled ones are unused and have the empty name, so the empty name finds the first of them.
 class TagTable
 {
 public:

@@ -1,9 +1,33 @@
 #pragma once
 
+#include <string_view>
+
 /// True for the blanks that C skips in front of a number: space, tab and the line and page ends.
 constexpr bool isBlank(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/// The text from its first character on that is not blank.
+constexpr std::string_view withoutLeadingBlanks(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+/// The text without the blanks at both ends.
+constexpr std::string_view withoutOuterBlanks(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return withoutLeadingBlanks(text);
+}
+
+/// The small letter of one of the 26 capitals, everything else as it is: for words that the program itself knows.
+constexpr char lowerCase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 /// True for the first half of a character that UTF-16 writes in two units.

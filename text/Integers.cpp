@@ -8,13 +8,6 @@
 namespace
 {
 
-std::string_view withoutLeadingBlanks(std::string_view text)
-{
-    const auto* first = std::find_if_not(text.begin(), text.end(), isBlank);
-    text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
-    return text;
-}
-
 /// The value of one hexadecimal digit, -1 for any other character.
 int digitValue(char c)
 {
@@ -36,6 +29,7 @@ std::int32_t parseInteger(std::string_view text)
     if (negative || text.starts_with('+'))
         text.remove_prefix(1);
 
+    // The range is not symmetric: there is one more number below zero than above.
     constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
     const std::int64_t limit = negative ? highest + 1 : highest;
     std::int64_t value = 0;
@@ -43,6 +37,7 @@ std::int32_t parseInteger(std::string_view text)
     {
         if (c < '0' || c > '9')
             break;
+        // It stops growing at the limit, so a thousand digits do not overflow either.
         value = std::min(limit, value * 10 + (c - '0'));
     }
     return static_cast<std::int32_t>(negative ? -value : value);
@@ -51,9 +46,11 @@ std::int32_t parseInteger(std::string_view text)
 std::uint32_t parseHexadecimal(std::string_view text)
 {
     text = withoutLeadingBlanks(text);
+    // "0x" without a digit after it is the number 0 and other text, as C sees it.
     if ((text.starts_with("0x") || text.starts_with("0X")) && text.size() > 2 && digitValue(text[2]) >= 0)
         text.remove_prefix(2);
 
+    // Bits that do not fit fall out at the top, and the low 32 remain.
     std::uint32_t value = 0;
     for (const char c : text)
     {
@@ -67,6 +64,7 @@ std::uint32_t parseHexadecimal(std::string_view text)
 
 std::string addressText(std::uint32_t address)
 {
+    // Longer numbers are not cut. They are no addresses, but what a file gave for one.
     constexpr std::size_t width = 5;
     std::string digits = std::to_string(address);
     if (digits.size() < width)

@@ -12,7 +12,7 @@
 namespace
 {
 
-/// Stands in front of the bytes of every interned text.
+/// Stands before the bytes of every interned text.
 struct Header
 {
     std::uint32_t length;

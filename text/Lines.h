@@ -14,14 +14,14 @@ constexpr std::string_view nativeLineEnd = "\n";
 
 /// Hands each line to `take`, without its end, first to last.
 ///
-/// Lines end with CR LF, CR or LF and with nothing else. A last line without an end counts; behind a final line end
+/// Lines end with CR LF, CR or LF and with nothing else. A last line without an end counts; after a final line end
 /// there is no further, empty line.
 /// @param take  called with a std::string_view into `text`
 template <class F>
 void forEachLine(std::string_view text, F take)
 {
     constexpr auto none = std::string_view::npos;
-    // Both searches look ahead once and are repeated only behind what they found: a text that holds one kind of end
+    // Both searches look ahead once and are repeated only after what they found: a text that holds one kind of end
     // alone is not searched for the other kind line by line.
     std::size_t carriageReturn = text.find('\r');
     std::size_t lineFeed = text.find('\n');

@@ -9,6 +9,7 @@
 namespace
 {
 
+/// ASCII does without the library, which would take 57 ms more for the texts of 65,536 tags at start.
 void appendUpperCaseAscii(std::string& target, std::string_view ascii)
 {
     const std::size_t start = target.size();
@@ -48,6 +49,7 @@ void appendUpperCase(std::string& target, std::string_view utf8)
         if (position == utf8.size())
             break;
         const Utf8Character character = characterAt(utf8, position);
+        // What is not UTF-8 has no case; it can still be searched for.
         if (character.valid)
             appendCharacter(target, upperCase(character.codePoint));
         else

@@ -29,6 +29,8 @@ Utf8Character characterAt(std::string_view text, std::size_t position)
     utf8proc_int32_t codePoint = 0;
     const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(ahead.data()),
                                          static_cast<utf8proc_ssize_t>(ahead.size()), &codePoint);
+    // Overlong forms, surrogates and what is cut off are errors to the library. It does not say how many bytes are
+    // wrong.
     if (length <= 0)
         return {};
     return {static_cast<char32_t>(codePoint), static_cast<std::size_t>(length), true};
@@ -51,6 +53,7 @@ bool isValidUtf8(std::string_view text)
 void appendCharacter(std::string& text, char32_t codePoint)
 {
     const auto wanted = static_cast<utf8proc_int32_t>(codePoint);
+    // The library writes surrogates as if they were characters, so they are sorted out before.
     const bool isCharacter = codePoint <= 0x10FFFF && utf8proc_codepoint_valid(wanted);
     std::array<utf8proc_uint8_t, 4> bytes;
     const auto length =

@@ -58,5 +58,6 @@ bool matchesWildcard(std::string_view pattern, std::string_view text)
         unit = afterStar;
         position = starEnd;
     }
+    // At the end of the text each star that is left matches nothing; any other unit would need a character.
     return pattern.find_first_not_of('*', unit) == none;
 }

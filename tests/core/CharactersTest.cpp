@@ -1,0 +1,27 @@
+#include "text/Characters.h"
+
+#include <gtest/gtest.h>
+
+TEST(Characters, LeadingBlanksAreSkipped)
+{
+    EXPECT_EQ(withoutLeadingBlanks(" \t\v\f\r\n5 "), "5 ");
+    EXPECT_EQ(withoutLeadingBlanks("5"), "5");
+    EXPECT_EQ(withoutLeadingBlanks(" \t"), "");
+    EXPECT_EQ(withoutLeadingBlanks(""), "");
+}
+
+TEST(Characters, OuterBlanksAreSkippedAndInnerOnesStay)
+{
+    EXPECT_EQ(withoutOuterBlanks("\t a b\n "), "a b");
+    EXPECT_EQ(withoutOuterBlanks("a"), "a");
+    EXPECT_EQ(withoutOuterBlanks(" \r\n"), "");
+    EXPECT_EQ(withoutOuterBlanks("\b"), "\b");
+}
+
+TEST(Characters, OnlyThe26CapitalsHaveASmallLetter)
+{
+    EXPECT_EQ(lowerCase('A'), 'a');
+    EXPECT_EQ(lowerCase('Z'), 'z');
+    for (const char c : {'a', 'z', '@', '[', '`', '0', '_', '\xC4'})
+        EXPECT_EQ(lowerCase(c), c);
+}
