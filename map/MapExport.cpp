@@ -2,6 +2,7 @@
 
 #include "files/SafeWrite.h"
 #include "map/PublishedName.h"
+#include "text/Characters.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
 #include "text/Utf8.h"
@@ -124,12 +125,10 @@ void appendSectionHeading(std::string& text, RegisterSpace space)
 ExportFormat exportFormatFor(std::string_view path)
 {
     constexpr std::string_view ending = ".csv";
-    const auto equalsLowered = [](char c, char lower)
-    { return (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) == lower; };
     if (path.size() < ending.size())
         return ExportFormat::Text;
     path.remove_prefix(path.size() - ending.size());
-    return std::equal(path.begin(), path.end(), ending.begin(), equalsLowered) ? ExportFormat::Csv : ExportFormat::Text;
+    return std::ranges::equal(path, ending, {}, lowerCase) ? ExportFormat::Csv : ExportFormat::Text;
 }
 
 std::string exportCsv(const RegisterMap& map)

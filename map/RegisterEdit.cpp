@@ -100,8 +100,7 @@ SpaceCheck checkSpace(std::string_view lengthText, EditRoom room)
 
 std::optional<std::int32_t> parseLength(std::string_view text)
 {
-    const auto* const first = std::find_if_not(text.begin(), text.end(), isBlank);
-    text.remove_prefix(static_cast<std::size_t>(first - text.begin()));
+    text = withoutLeadingBlanks(text);
     if (text.starts_with('+') && !text.starts_with("+-"))
         text.remove_prefix(1);
     std::int32_t length = 0;
