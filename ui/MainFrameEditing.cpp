@@ -1,8 +1,7 @@
 // The editing commands: selection to addresses, one operation of the model, view up to date.
 //
-// Which commands judge the map again is settled in the model's terms: compress and the purge do, because they leave
-// slots whose marks say nothing any more. All the others carry the marks along with the registers, so that a look at
-// the list after a paste or a move shows what it showed before.
+// Compress and the purge judge the map again afterwards, because they leave slots whose marks say nothing any more. The
+// other commands here carry the marks along with the registers: after a paste or a move the list shows what it showed.
 //
 // A command that finds nothing to do leaves list and selection as they are; one that rebuilds the list drops the
 // selection, because its rows are others then.

@@ -23,7 +23,12 @@ void MainFrame::refreshMapView(int scrollAddress)
     refreshing = true;
     mapTable->show(shownAddresses(map.currentSlots(), map.viewMode));
     if (scrollAddress >= 0 && mapTable->GetNumberRows() > 0)
-        scrollToTop(*mapGrid, mapTable->rowOf(scrollAddress).value_or(0));
+    {
+        const int row = mapTable->rowOf(scrollAddress).value_or(0);
+        scrollToTop(*mapGrid, row);
+        // Rows are exchanged under the cursor; without this the next arrow key would jump to where it was before.
+        setCursorWithoutScrolling(*mapGrid, row);
+    }
     refreshing = false;
     viewLabel->SetLabel(toolkitText(viewModeLabel(map.viewMode)));
     viewLabel->GetParent()->Layout();

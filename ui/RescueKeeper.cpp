@@ -15,11 +15,22 @@ RescueKeeper::RescueKeeper(const Document& watched, std::filesystem::path folder
     timer.Start(interval);
 }
 
+bool RescueKeeper::isWriting()
+{
+    if (!writing.valid())
+        return false;
+    if (writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+        return true;
+    // A copy that could not be written is tried again, also when the map stays as it is.
+    if (!writing.get())
+        writtenText = 0;
+    return false;
+}
+
 void RescueKeeper::refresh()
 try
 {
-    const bool stillWriting = writing.valid() && writing.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
-    if (stillWriting || !document.hasUnsavedChanges())
+    if (isWriting() || !document.hasUnsavedChanges())
         return;
     std::string text = definitionText(document.map);
     const std::size_t hash = std::hash<std::string>{}(text);
@@ -27,8 +38,8 @@ try
         return;
     writtenText = hash;
     // The text is made here, where nobody changes the map meanwhile. A slow disk is waited for elsewhere.
-    writing = std::async(std::launch::async,
-                         [this, name = document.definitionPath, made = std::move(text)] { copy.write(name, made); });
+    writing = std::async(std::launch::async, [this, name = document.definitionPath, made = std::move(text)]
+                         { return copy.write(name, made); });
 }
 catch (const std::bad_alloc&)
 {

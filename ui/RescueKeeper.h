@@ -32,11 +32,12 @@ public:
     std::filesystem::path file();
 
 private:
+    bool isWriting();
     void refresh();
 
     const Document& document;
     RescueCopy copy;
-    std::future<void> writing;   ///< the copy belongs to it while it runs
+    std::future<bool> writing;   ///< whether it was written; the copy belongs to it while it runs
     std::size_t writtenText = 0; ///< hash of the text written last
     wxTimer timer;
 };

@@ -288,3 +288,22 @@ TEST(MainFrame, FileRemovedMeanwhileIsCreatedAgain)
     EXPECT_TRUE(waitUntilGone(editor));
     EXPECT_EQ(files.definition(), "COIL,00007,NONE,INT16,TANK_HIGH,Level high,1,UNLOCKED,OK\n");
 }
+
+TEST(MainFrame, AnotherSpaceStartsWithTheCursorOnItsFirstRow)
+{
+    const PlantFiles files(definition);
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.clickMapRow(3);
+    clickOn(*editor.button("Show Coil Registers"));
+    ASSERT_TRUE(waitUntil([&] { return editor.shownRows() == std::vector<std::string>{"00007"}; }));
+    clickOn(*editor.button("Show Holding Registers"));
+    ASSERT_TRUE(waitUntil([&] { return editor.shownRows().size() == 4; }));
+    EXPECT_EQ(editor.mapGrid->GetGridCursorRow(), 0);
+
+    editor.nextView();
+    editor.nextView();
+    editor.clickMapRow(9);
+    clickOn(*editor.button("Show Input Registers"));
+    ASSERT_TRUE(waitUntil([&] { return editor.registerMap().currentSpace == RegisterSpace::Input; }));
+    EXPECT_EQ(editor.mapGrid->GetGridCursorRow(), 0);
+}

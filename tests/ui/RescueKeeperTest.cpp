@@ -33,6 +33,24 @@ TEST(RescueKeeper, RefreshesItsCopyAfterEachIntervalWithChanges)
     EXPECT_TRUE(waitUntil(holdsTheMap));
 }
 
+TEST(RescueKeeper, TriesAgainWhenACopyCouldNotBeWritten)
+{
+    const TempFolder folder;
+    folder.write("rescue", "a file where the folder should be");
+    Document document("", folder / "north.csv", 0);
+    RescueKeeper keeper(document, folder / "rescue" / "copies", quickly);
+    change(document, 3);
+    int ticks = 0;
+    wxTimer beside;
+    beside.Bind(wxEVT_TIMER, [&ticks](wxTimerEvent&) { ++ticks; });
+    beside.Start(quickly);
+    ASSERT_TRUE(waitUntil([&] { return ticks > 3; }));
+    ASSERT_EQ(keeper.file(), "");
+
+    std::filesystem::remove(folder / "rescue");
+    EXPECT_TRUE(waitUntil([&] { return readFile(keeper.file()) == definitionText(document.map); }));
+}
+
 TEST(RescueKeeper, WritesNothingWhileThereAreNoChanges)
 {
     const TempFolder folder;
