@@ -7,6 +7,8 @@
 #include "files/posix/SafeWrite.h"
 #include "files/posix/Strays.h"
 
+#include <new>
+
 namespace fs = std::filesystem;
 
 namespace
@@ -155,6 +157,27 @@ TEST_F(OldBytes, AreWhollyOldOrWhollyNewWhicheverCallFails)
             EXPECT_EQ(strays(), 0) << refused << ", call " << failing;
         } while (failing <= made);
     }
+}
+
+TEST_F(OldBytes, AreNotKeptWithoutMemoryForThem)
+{
+    folder.write("map.csv", "old");
+    folder.write("map.csv~", "older");
+    calls.onCall = [](const std::string& call)
+    {
+        if (call == "pread")
+            throw std::bad_alloc();
+    };
+    EXPECT_FALSE(keepOldBytes(file, calls));
+    EXPECT_EQ(contents(copy), "older");
+}
+
+TEST_F(OldBytes, AreNotKeptWhenTheyCannotBeRead)
+{
+    folder.write("map.csv", "old");
+    calls.refused["pread"] = EIO;
+    EXPECT_FALSE(keepOldBytes(file, calls));
+    EXPECT_FALSE(fs::exists(copy));
 }
 
 TEST_F(OldBytes, ClearAwayTheStraysOfEarlierOnes)

@@ -8,6 +8,8 @@
 #include "map/DefinitionFile.h"
 #include "map/MapExport.h"
 
+#include <new>
+
 namespace fs = std::filesystem;
 
 namespace
@@ -172,6 +174,24 @@ TEST_F(SafeWriteFaults, FileRewrittenInPlaceWithoutReservedRoomIsWhollyOldOrWhol
     const auto before = [this] { folder.write("map.csv", oldText); };
     failEveryCallOnce(newText, before,
                       {{"open unnamed", EACCES}, {"open named", EACCES}, {"posixFallocate", EOPNOTSUPP}});
+}
+
+TEST_F(SafeWriteFaults, LackOfMemoryLeavesTheOldFile)
+{
+    for (const char* const call : {"open unnamed", "flistxattr", "pread"})
+    {
+        folder.write("map.csv", oldText);
+        FaultyCalls calls;
+        calls.refused["linkat"] = EPERM;
+        calls.refused["rename"] = EPERM;
+        calls.onCall = [&](const std::string& made)
+        {
+            if (made == call)
+                throw std::bad_alloc();
+        };
+        EXPECT_FALSE(writeFileSafely(file(), newText, calls)) << call;
+        EXPECT_EQ(contents(file()), oldText) << call;
+    }
 }
 
 TEST_F(SafeWriteFaults, DiskThatTakesAFewBytesAtATimeGetsAllOfThem)
