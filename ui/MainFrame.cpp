@@ -60,6 +60,7 @@ void MainFrame::createButtons()
         if (command.bar != ButtonBar::None)
             createButton(command);
     }
+    sourceBrowser->orderTabStops();
     showSpaceButtons();
 }
 

@@ -6,6 +6,7 @@
 #include "ui/MainFrameBase.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class MapGridTable;
@@ -50,6 +51,7 @@ public:
     // Commands on the view and on the whole map.
     void selectSpace(RegisterSpace space);
     void toggleView();
+    void showViewMode();
     void deleteErrorRegisters();
 
     // Commands about the whole program.
@@ -98,5 +100,6 @@ private:
     MapGridTable* mapTable = nullptr;
     SourceBrowser* sourceBrowser = nullptr;
     std::array<wxBitmapButton*, spaceCount> spaceButtons{};
+    std::optional<int> shownErrorCount; ///< what the status line tells; nothing before the timer's first tick
     bool refreshing = false;
 };

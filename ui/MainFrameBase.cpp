@@ -1,6 +1,7 @@
 #include "ui/MainFrameBase.h"
 
 #include "ui/PanelControls.h"
+#include "ui/QuietPanel.h"
 #include "ui/Theme.h"
 #include "ui/grid/GridHeader.h"
 
@@ -52,7 +53,7 @@ MainFrameBase::MainFrameBase()
 
 void MainFrameBase::createTopBar()
 {
-    topBar = new wxPanel(this);
+    topBar = new QuietPanel(this);
     panelControls::dress(*topBar, theme::frameText, theme::headerBackground);
     topBarSizer = new wxBoxSizer(wxHORIZONTAL);
     topBar->SetSizer(topBarSizer);
@@ -66,7 +67,7 @@ void MainFrameBase::showSourcePanel(wxWindow* panel)
 
 void MainFrameBase::createMapPanel()
 {
-    mapPanel = new wxPanel(splitter);
+    mapPanel = new QuietPanel(splitter);
     panelControls::dress(*mapPanel, theme::frameText, theme::frameBackground);
     mapPanel->SetDoubleBuffered(true);
     wxPanel* const titleRow = panelControls::createTitleRow(mapPanel, "MODBUS");
@@ -86,7 +87,7 @@ void MainFrameBase::createMapPanel()
 
 wxPanel* MainFrameBase::createStatusLine()
 {
-    auto* const line = new wxPanel(mapPanel);
+    auto* const line = new QuietPanel(mapPanel);
     panelControls::dress(*line, theme::statusStart, theme::headerBackground);
     statusLabel = panelControls::createText(line, "No Errors", theme::regular(9), theme::statusStart,
                                             wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);

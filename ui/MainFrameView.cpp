@@ -30,7 +30,15 @@ void MainFrame::refreshMapView(int scrollAddress)
         setCursorWithoutScrolling(*mapGrid, row);
     }
     refreshing = false;
-    viewLabel->SetLabel(toolkitText(viewModeLabel(map.viewMode)));
+    showViewMode();
+}
+
+void MainFrame::showViewMode()
+{
+    const wxString text = toolkitText(viewModeLabel(map.viewMode));
+    if (viewLabel->GetLabelText() == text)
+        return;
+    viewLabel->SetLabelText(text);
     viewLabel->GetParent()->Layout();
 }
 
@@ -78,6 +86,9 @@ void MainFrame::toggleView()
 void MainFrame::refreshStatus()
 {
     map.errorCount = countErrors(map);
+    if (shownErrorCount == map.errorCount)
+        return;
+    shownErrorCount = map.errorCount;
     statusLabel->SetForegroundColour(theme::colour(map.errorCount > 0 ? theme::statusWarning : theme::statusGood));
     statusLabel->SetLabel(toolkitText(statusText(map.errorCount)));
 }

@@ -1,5 +1,6 @@
 #include "ui/PanelControls.h"
 
+#include "ui/QuietPanel.h"
 #include "ui/Theme.h"
 #include "ui/WrappingRowSizer.h"
 #include "ui/grid/CellTooltips.h"
@@ -32,6 +33,16 @@ constexpr int buttonNarrowing = 6;
 /// Pixels on both sides of a title.
 constexpr int titleBorder = 8;
 
+/// Lets Tab and Shift+Tab leave a grid from any cell. The toolkit's own behaviour of that name (3.2) first goes through
+/// the cells of the row, which mean nothing where rows are selected whole.
+void leaveWithTab(wxGrid& grid)
+{
+    grid.Bind(wxEVT_GRID_TABBING,
+              [&grid](wxGridEvent& event) {
+                  grid.Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+              });
+}
+
 /// Gives a grid its fonts and colours.
 void dressGrid(wxGrid& grid)
 {
@@ -41,7 +52,7 @@ void dressGrid(wxGrid& grid)
     grid.SetDefaultCellBackgroundColour(theme::colour(theme::contentBackground));
     grid.SetCellHighlightColour(theme::colour(theme::selection));
     grid.SetSelectionBackground(theme::colour(theme::selection));
-    grid.SetSelectionForeground(theme::colour(theme::contentText));
+    grid.SetSelectionForeground(theme::colour(theme::selectionText));
     panelControls::dress(grid, theme::cellText, theme::contentBackground);
 }
 
@@ -75,7 +86,7 @@ wxStaticText* createText(wxWindow* parent, const wxString& text, const wxFont& f
 
 wxPanel* createTitleRow(wxWindow* parent, const wxString& title)
 {
-    auto* const row = new wxPanel(parent);
+    auto* const row = new QuietPanel(parent);
     dress(*row, theme::frameText, theme::headerBackground);
     auto* const text = createText(row, title, theme::semibold(16), theme::title);
     text->SetBackgroundColour(theme::colour(theme::headerBackground));
@@ -89,6 +100,7 @@ wxPanel* createTitleRow(wxWindow* parent, const wxString& title)
 wxGrid* createGrid(wxWindow* parent, GridColumns columns)
 {
     auto* const grid = new wxGrid(parent, wxID_ANY);
+    grid->SetCanFocus(false); // with GTK the Tab key stops at the grid around its cells, too
     grid->CreateGrid(0, static_cast<int>(columns.size()), wxGrid::wxGridSelectRows);
     grid->EnableEditing(false);
     grid->EnableGridLines(false);
@@ -106,6 +118,7 @@ wxGrid* createGrid(wxWindow* parent, GridColumns columns)
     for (std::size_t column = 0; column < columns.size(); ++column)
         grid->SetColSize(static_cast<int>(column), columnWidths::opening(*grid, columns[column]));
     showCellTooltips(*grid);
+    leaveWithTab(*grid);
     return grid;
 }
 

@@ -27,7 +27,7 @@ constexpr int treeWidth = 200;
 
 } // namespace
 
-SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : wxPanel(parent)
+SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : QuietPanel(parent)
 {
     panelControls::dress(*this, theme::frameText, theme::frameBackground);
     auto* const columns = new wxBoxSizer(wxHORIZONTAL);
@@ -94,7 +94,7 @@ void SourceBrowserBase::createGroupFilters(wxSizer& column)
     column.Add(new wxStaticLine(this), 0, wxEXPAND | wxTOP, FromDIP(1));
     column.Add(panelControls::createText(this, "Group Filters", theme::semibold(14), theme::title), 0, wxLEFT | wxTOP,
                FromDIP(8));
-    groupFilters = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
+    groupFilters = new QuietScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
     groupFilters->SetScrollRate(0, panelControls::rowHeight(*this));
     groupFilters->SetMinSize(FromDIP(wxSize(-1, groupFilterHeight)));
     panelControls::dress(*groupFilters, theme::groupDescription, theme::contentBackground);
@@ -112,6 +112,12 @@ void SourceBrowserBase::connectEvents()
     groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
     sourceGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &SourceBrowserBase::OnSourceGridRightDown, this);
+}
+
+void SourceBrowserBase::orderTabStops()
+{
+    for (wxSizerItem* const item : buttonSizer->GetChildren())
+        item->GetWindow()->MoveBeforeInTabOrder(sourceFilter);
 }
 
 void SourceBrowserBase::fitColumns()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <wx/panel.h>
+#include "ui/QuietPanel.h"
 
 class GridHeader;
 class wxBoxSizer;
@@ -13,13 +13,17 @@ class wxTreeEvent;
 
 /// The layout of the main window's source side: creates the controls, lays them out and connects their events to
 /// handlers. It holds no behaviour; the handlers of this class pass their events on.
-class SourceBrowserBase : public wxPanel
+class SourceBrowserBase : public QuietPanel
 {
 public:
     explicit SourceBrowserBase(wxWindow* parent);
 
     /// Gives the last column of the grid the room that is left, and the titles the widths of their columns.
     void fitColumns();
+
+    /// Lets the Tab key reach the buttons of the title row where they stand, before the filter; to be called once they
+    /// are there.
+    void orderTabStops();
 
     /// The place for buttons in the "DATABASE" title row.
     wxBoxSizer& buttonPlace() { return *buttonSizer; }

@@ -1,6 +1,7 @@
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 #include "ui/NamedImages.h"
+#include "ui/Theme.h"
 #include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +81,38 @@ TEST(MainFrame, StatusLineFollowsTheMapWithTheNextTick)
     EXPECT_TRUE(waitUntil([&] { return editor.statusLabel->GetLabel() == "  No errors"; }));
     EXPECT_EQ(editor.statusLabel->GetForegroundColour(), wxColour(176, 176, 176));
     EXPECT_EQ(editor.registerMap().errorCount, 0);
+}
+
+TEST(MainFrame, StatusLineIsLeftAloneWhileTheCountStays)
+{
+    const PlantFiles files(definition);
+    EditorWindow& editor = *openEditor(files.startup());
+    int ticks = 0;
+    editor.Bind(wxEVT_TIMER,
+                [&ticks](wxTimerEvent& event)
+                {
+                    event.Skip();
+                    ++ticks;
+                });
+    ASSERT_TRUE(waitUntil([&] { return editor.statusLabel->GetLabel().StartsWith("  WARNING : 3"); }));
+    editor.statusLabel->SetLabel("left alone");
+    const int before = ticks;
+    ASSERT_TRUE(waitUntil([&] { return ticks >= before + 2; }));
+    EXPECT_EQ(editor.statusLabel->GetLabel(), "left alone");
+    editor.registerMap().eraseObject(RegisterSpace::Holding, 130);
+    EXPECT_TRUE(
+        waitUntil([&] { return editor.statusLabel->GetLabel() == "  WARNING : 2 error(s) found in register map"; }));
+}
+
+TEST(MainFrame, SelectionHasReadableTextInBothGrids)
+{
+    const PlantFiles files(definition);
+    const EditorWindow& editor = *openEditor(files.startup());
+    for (const wxGrid* const grid : {editor.mapGrid, editor.sourceGrid})
+    {
+        EXPECT_EQ(grid->GetSelectionBackground(), wxColour(51, 153, 255));
+        EXPECT_EQ(grid->GetSelectionForeground(), theme::colour(theme::selectionText));
+    }
 }
 
 TEST(MainFrame, SpaceButtonsShowTheirSpaceAndStayPressed)

@@ -36,10 +36,10 @@ public:
     {
         grid->SetCellValue(0, 0, text);
         const wxGridCellAttrPtr look(
-            new wxGridCellAttr(*wxWHITE, *wxBLACK, theme::regular(10), alignment, wxALIGN_CENTRE));
+            new wxGridCellAttr(colour, *wxBLACK, theme::regular(10), alignment, wxALIGN_CENTRE));
         wxBitmap bitmap(cellWidth, cellHeight);
         wxMemoryDC dc(bitmap);
-        renderer.Draw(*grid, *look, dc, wxRect(0, 0, cellWidth, cellHeight), 0, 0, false);
+        renderer.Draw(*grid, *look, dc, wxRect(0, 0, cellWidth, cellHeight), 0, 0, selected);
         dc.SelectObject(wxNullBitmap);
         return bitmap.ConvertToImage();
     }
@@ -56,7 +56,9 @@ public:
         return text.Left(length) + L"\u2026";
     }
 
+    wxColour colour = *wxWHITE;
     int alignment = wxALIGN_LEFT;
+    bool selected = false;
 
 private:
     wxGrid* grid;
@@ -111,4 +113,17 @@ TEST(RowCellRenderer, TextOfAnyLengthIsDrawnLikeItsBeginning)
     EXPECT_TRUE(samePicture(cell.pictureOf(endless), cell.pictureOf(most)));
     const wxString breaks(wxUniChar('\n'), 100'000);
     EXPECT_TRUE(samePicture(cell.pictureOf("first" + breaks), cell.pictureOf(L"first\u2026")));
+}
+
+TEST(RowCellRenderer, SelectedTextHasOneColourWhateverItMeans)
+{
+    OneCell& cell = *new OneCell;
+    const wxImage white = cell.pictureOf("PUMP_1");
+    cell.colour = *wxRED;
+    EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), white));
+    cell.selected = true;
+    const wxImage red = cell.pictureOf("PUMP_1");
+    EXPECT_FALSE(samePicture(red, cell.pictureOf("")));
+    cell.colour = *wxGREEN;
+    EXPECT_TRUE(samePicture(cell.pictureOf("PUMP_1"), red));
 }

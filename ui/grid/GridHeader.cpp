@@ -18,7 +18,7 @@ constexpr int scrollBarRoom = 20;
 } // namespace
 
 GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns)
-    : wxPanel(parent), grid(columnsOf), columns(gridColumns), drag(*this, columnsOf, gridColumns)
+    : QuietPanel(parent), grid(columnsOf), columns(gridColumns), drag(*this, columnsOf, gridColumns)
 {
     SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
     for (std::size_t column = 0; column < columns.size(); ++column)
@@ -82,7 +82,7 @@ void GridHeader::placeTitles()
 
 void GridHeader::OnInternalIdle()
 {
-    wxPanel::OnInternalIdle();
+    QuietPanel::OnInternalIdle();
     if (placedLeft != columnsLeft())
         placeTitles();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "ui/QuietPanel.h"
 #include "ui/grid/ColumnDrag.h"
 #include "ui/grid/GridColumns.h"
-
-#include <wx/panel.h>
 
 #include <vector>
 
@@ -11,7 +10,7 @@ class wxGrid;
 class wxStaticText;
 
 /// The row of column titles above a grid; it stands in for the grid's own labels, which are hidden.
-class GridHeader : public wxPanel
+class GridHeader : public QuietPanel
 {
 public:
     /// Pixels between two titles.
