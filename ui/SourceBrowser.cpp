@@ -153,6 +153,18 @@ void SourceBrowser::OnSourceFilterChanged(wxCommandEvent&)
     refreshTags();
 }
 
+void SourceBrowser::OnSourceFilterKeyDown(wxKeyEvent& event)
+{
+    // Down is not passed on: GTK 3 would give the keyboard to whatever control comes next.
+    const int key = event.HasAnyModifiers() ? WXK_NONE : event.GetKeyCode();
+    if (key == WXK_ESCAPE)
+        sourceFilter->Clear();
+    else if (key != WXK_DOWN)
+        event.Skip();
+    else if (sourceGrid->GetNumberRows() > 0)
+        sourceGrid->SetFocus();
+}
+
 void SourceBrowser::OnSourceGridKeyDown(wxKeyEvent& event)
 {
     if (const Command* const command = commandForKey(CommandGrid::Tags, event))

@@ -37,6 +37,7 @@ protected:
     void OnSourceTreeItemCollapsing(wxTreeEvent& event) override;
     void OnSourceTreeItemExpanded(wxTreeEvent& event) override;
     void OnSourceFilterChanged(wxCommandEvent& event) override;
+    void OnSourceFilterKeyDown(wxKeyEvent& event) override;
     void OnSourceGridKeyDown(wxKeyEvent& event) override;
     void OnSourceGridRightDown(wxMouseEvent& event) override;
 

@@ -109,6 +109,7 @@ void SourceBrowserBase::connectEvents()
     sourceTree->Bind(wxEVT_TREE_ITEM_COLLAPSING, &SourceBrowserBase::OnSourceTreeItemCollapsing, this);
     sourceTree->Bind(wxEVT_TREE_ITEM_EXPANDED, &SourceBrowserBase::OnSourceTreeItemExpanded, this);
     sourceFilter->Bind(wxEVT_TEXT, &SourceBrowserBase::OnSourceFilterChanged, this);
+    sourceFilter->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceFilterKeyDown, this);
     groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
     sourceGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &SourceBrowserBase::OnSourceGridRightDown, this);
@@ -141,6 +142,11 @@ void SourceBrowserBase::OnSourceTreeItemExpanded(wxTreeEvent& event)
 }
 
 void SourceBrowserBase::OnSourceFilterChanged(wxCommandEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceFilterKeyDown(wxKeyEvent& event)
 {
     event.Skip();
 }

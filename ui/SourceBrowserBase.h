@@ -33,6 +33,7 @@ protected:
     virtual void OnSourceTreeItemCollapsing(wxTreeEvent& event);
     virtual void OnSourceTreeItemExpanded(wxTreeEvent& event);
     virtual void OnSourceFilterChanged(wxCommandEvent& event);
+    virtual void OnSourceFilterKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridRightDown(wxMouseEvent& event);
 
