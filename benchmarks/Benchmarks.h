@@ -1,13 +1,10 @@
 #pragma once
 
-#include "benchmarks/RatioTable.h"
+#include "benchmarks/ResultTable.h"
 
-/// The topics of the benchmark program; each registers its pairs with the table.
+/// The topics of the benchmark program; each adds its rows to the table.
 
-void addMapBenchmarks(RatioTable& table);
-void addEditingBenchmarks(RatioTable& table);
-void addFileBenchmarks(RatioTable& table);
-void addFilterBenchmarks(RatioTable& table);
-void addGridBenchmarks(RatioTable& table);
-void addCommandBenchmarks(RatioTable& table);
-void addStartBenchmarks(RatioTable& table);
+void addCommandBenchmarks(ResultTable& table);
+void addViewBenchmarks(ResultTable& table);
+void addFileBenchmarks(ResultTable& table);
+void addStartBenchmarks(ResultTable& table);

@@ -1,141 +1,154 @@
-// Commands on 65,536 rows, from the key or button to the updated view, in the program's own main window.
+// Commands on a full space with every row selected, from the key or button to the painted view, in the program's own
+// main window.
 
 #include "benchmarks/Benchmarks.h"
 #include "benchmarks/DrivenFrame.h"
 #include "benchmarks/FullSize.h"
 #include "benchmarks/Measure.h"
+#include "ui/TagSearchAndReplaceDialog.h"
 
 #include <wx/grid.h>
+#include <wx/modalhook.h>
+#include <wx/textctrl.h>
+
+#include <functional>
 
 namespace
 {
 
-using Drive = void (*)(DrivenFrame&);
+constexpr int half = registersPerSpace / 2;
+constexpr bool withControl = true;
 
-void selectEverySecondRow(DrivenFrame& frame)
+/// Answers what the commands ask: yes to questions, and a name that nothing has had before to the replacing dialog.
+class DialogAnswers : public wxModalDialogHook
 {
-    for (int row = 0; row < frame.mapRows().GetNumberRows(); row += 2)
-        frame.mapRows().SelectRow(row, true);
+public:
+    DialogAnswers() { Register(); }
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        auto* const replacing = dynamic_cast<TagSearchAndReplaceDialog*>(dialog);
+        if (replacing == nullptr)
+            return wxID_YES;
+        replacing->findText->SetValue("_");
+        replacing->replaceText->SetValue(wxString::Format("_%d_", ++replaced));
+        return wxID_OK;
+    }
+
+private:
+    int replaced = 0;
+};
+
+/// What is done to the window.
+using Drive = std::function<void(DrivenFrame& frame)>;
+
+Drive nothing()
+{
+    return [](DrivenFrame&) {};
 }
 
-/// @param prepare  brings the selection about, not measured; the map is as it was at the start by then
-Measurement driving(Drive prepare, Drive command)
+Drive select(int first, int last)
+{
+    return [=](DrivenFrame& frame) { frame.selectRows(first, last); };
+}
+
+Drive selectEverySecond()
+{
+    return [](DrivenFrame& frame)
+    {
+        frame.mapRows().ClearSelection();
+        for (int row = 0; row < registersPerSpace; row += 2)
+            frame.mapRows().SelectRow(row, true);
+    };
+}
+
+Drive press(int key, bool control = false)
+{
+    return [=](DrivenFrame& frame) { frame.press(key, control); };
+}
+
+Drive click(const char* tooltip)
+{
+    return [=](DrivenFrame& frame) { frame.click(tooltip); };
+}
+
+Drive inTurn(const Drive& first, const Drive& second)
+{
+    return [=](DrivenFrame& frame)
+    {
+        first(frame);
+        second(frame);
+    };
+}
+
+/// What a command finds and does.
+struct Scene
+{
+    Drive prepare; ///< what is done to the full map before all measurements
+    Drive select;  ///< done before each of them
+    Drive command; ///< what is measured
+};
+
+Measurement driving(const Scene& scene)
 {
     return [=](benchmark::State& state)
     {
-        FrameOnScreen frame;
+        const DialogAnswers answers;
+        FrameOnScreen frame(mapOfSingleRegisters());
+        RegisterMap& map = frame->registers();
         frame->showAllRegisters();
-        RegisterSlots& slots = frame->registerMap().currentSlots();
-        fillWithSingleRegisters(frame->registerMap());
-        const auto original = copyOf(slots);
+        scene.prepare(*frame);
+        const RegistersCopy original(map);
+        map.takeSnapshot();
         measure(
             state,
             [&]
             {
-                slots = *original;
-                frame->mapRows().ClearSelection();
-                prepare(*frame);
+                original.restore(map);
+                scene.select(*frame);
                 handleEvents();
             },
-            [&] { command(*frame); });
-    };
-}
-
-void copySpace(benchmark::State& state)
-{
-    RegisterMap map;
-    fillWithObjects(map);
-    const auto copy = copyOf(map.currentSlots());
-    measure(state,
             [&]
             {
-                *copy = map.currentSlots();
-                benchmark::DoNotOptimize(copy.get());
-                benchmark::ClobberMemory();
+                scene.command(*frame);
+                paintNow(*frame->mapRows().GetGridWindow());
             });
-}
-
-void selectNothing(DrivenFrame&) {}
-
-void selectAll(DrivenFrame& frame)
-{
-    frame.pressControl('A');
-}
-
-void copySelection(DrivenFrame& frame)
-{
-    frame.pressControl('C');
-}
-
-void cutSelection(DrivenFrame& frame)
-{
-    frame.pressControl('X');
-}
-
-void deleteSelection(DrivenFrame& frame)
-{
-    frame.press(WXK_DELETE);
-}
-
-void toggleLocks(DrivenFrame& frame)
-{
-    frame.click("Toggle register lock");
-}
-
-void copyAll(DrivenFrame& frame)
-{
-    selectAll(frame);
-    copySelection(frame);
-}
-
-void cutAll(DrivenFrame& frame)
-{
-    selectAll(frame);
-    cutSelection(frame);
-}
-
-void deleteAll(DrivenFrame& frame)
-{
-    selectAll(frame);
-    deleteSelection(frame);
-}
-
-void cutAllAndPaint(DrivenFrame& frame)
-{
-    cutAll(frame);
-    paintNow(*frame.mapRows().GetGridWindow());
+        if (!map.isModified() && map.clipboard.size() != registersPerSpace)
+            state.SkipWithError("the command did not do its work");
+    };
 }
 
 } // namespace
 
-void addCommandBenchmarks(RatioTable& table)
+void addCommandBenchmarks(ResultTable& table)
 {
-    constexpr double quick = 50;
-    constexpr double bearable = 100;
-    constexpr int rounds = 10;
-    constexpr int fewRounds = 3;
-    const std::string aSpace = "copy of one space";
-
-    const auto addAll = [&](const char* work, Drive command)
+    constexpr double frameTime = 16;
+    const auto add = [&](const char* work, const Drive& prepare, const Drive& selection, const Drive& command)
     {
-        table.add({.work = work, .yardstick = aSpace, .ratio = 20, .milliseconds = quick}, rounds,
-                  driving(selectNothing, command), copySpace);
+        Row row{.work = work, .milliseconds = frameTime};
+        row.measurement = driving({prepare, selection, command});
+        table.add(row);
     };
-    addAll("Ctrl+A and copy, ALL", copyAll);
-    addAll("Ctrl+A and cut, ALL", cutAll);
-    addAll("Ctrl+A and delete, ALL", deleteAll);
-    table.add({.work = "Ctrl+A and cut, ALL, painted", .yardstick = aSpace}, rounds,
-              driving(selectNothing, cutAllAndPaint), copySpace);
+    const Drive all = select(0, lastAddress);
+    const Drive cut = press('X', withControl);
+    const Drive replace = click("Tagname search and replace");
+    const Drive freeLast = inTurn(select(lastAddress, lastAddress), press(WXK_DELETE));
+    const Drive freeEverySecond = inTurn(selectEverySecond(), press(WXK_DELETE));
+    const Drive copyHalf = inTurn(select(half, lastAddress), cut); // leaves room for as much as it copies
 
-    const auto addScattered = [&](const char* work, Drive command)
-    {
-        table.add({.work = work, .yardstick = aSpace, .milliseconds = bearable}, fewRounds,
-                  driving(selectEverySecondRow, command), copySpace);
-    };
-    addScattered("copy of every second row, ALL", copySelection);
-    addScattered("cut of every second row, ALL", cutSelection);
-    addScattered("delete of every second row, ALL", deleteSelection);
-
-    table.add({.work = "lock toggle and reselect, ALL", .yardstick = aSpace, .milliseconds = quick}, rounds,
-              driving(selectAll, toggleLocks), copySpace);
+    add("copy 65,536 rows", nothing(), all, press('C', withControl));
+    add("cut 65,536 rows", nothing(), all, cut);
+    add("delete 65,536 rows", nothing(), all, press(WXK_DELETE));
+    add("paste 32,768 before 32,768", copyHalf, all, press('V', withControl));
+    add("append 32,768 to 32,768", copyHalf, all, click("Append to block"));
+    add("move 65,535 rows down", freeLast, select(0, lastAddress - 1), press('='));
+    add("shove 32,768 rows through 32,767", freeLast, select(0, half - 1), press('=', withControl));
+    add("compress 65,536 rows, every second one free", freeEverySecond, all,
+        click("Compress registers into contiguous block"));
+    add("toggle the lock of 65,536 rows", nothing(), all, click("Toggle register lock"));
+    add("replace in 65,536 tagnames, new names", nothing(), all, replace);
+    add("purge 65,536 registers in error", inTurn(all, replace), all, click("Delete registers with errors"));
+    add("Ctrl+A and cut, ALL, painted", nothing(), select(0, 0), inTurn(press('A', withControl), cut));
+    add("delete of every second row, painted", nothing(), selectEverySecond(), press(WXK_DELETE));
 }

@@ -1,52 +1,47 @@
 #include "benchmarks/DrivenFrame.h"
 
 #include "benchmarks/FullSize.h"
-#include "benchmarks/Screen.h"
-#include "map/DefinitionFile.h"
-#include "ui/MainFrame.h"
 #include "ui/OpenDocument.h"
 
+#include <gdk/gdk.h>
 #include <wx/app.h>
-#include <wx/bmpbuttn.h>
 #include <wx/grid.h>
 #include <wx/textctrl.h>
 
 namespace
 {
 
-wxWindow* findByTooltip(wxWindow& parent, const wxString& tooltip)
+/// The first window below another one that fits.
+/// @param fits  told a window, says whether it is meant
+template <class F>
+wxWindow* findBelow(const wxWindow& parent, F fits)
 {
     for (wxWindow* const child : parent.GetChildren())
     {
-        if (child->GetToolTipText() == tooltip)
+        if (fits(child))
             return child;
-        if (wxWindow* const found = findByTooltip(*child, tooltip))
+        if (wxWindow* const found = findBelow(*child, fits))
             return found;
     }
     return nullptr;
 }
 
-/// The first grid below a window other than the one given.
-wxGrid* findOtherGrid(const wxWindow& window, const wxGrid& known)
+wxWindow* findByTooltip(const wxWindow& parent, const wxString& tooltip)
 {
-    for (wxWindow* const child : window.GetChildren())
-    {
-        auto* const grid = dynamic_cast<wxGrid*>(child);
-        if (grid && grid != &known)
-            return grid;
-        if (wxGrid* const found = findOtherGrid(*child, known))
-            return found;
-    }
-    return nullptr;
+    return findBelow(parent, [&](const wxWindow* window) { return window->GetToolTipText() == tooltip; });
 }
 
-void sendKey(wxWindow& window, int key, bool control)
+wxGrid* findOtherGrid(const wxWindow& parent, const wxGrid* known)
 {
-    wxKeyEvent event(wxEVT_KEY_DOWN);
-    event.SetEventObject(&window);
-    event.m_keyCode = key;
-    event.SetControlDown(control);
-    window.GetEventHandler()->ProcessEvent(event);
+    const auto isOther = [&](const wxWindow* window)
+    { return window != known && window->IsKindOf(wxCLASSINFO(wxGrid)); };
+    return dynamic_cast<wxGrid*>(findBelow(parent, isOther));
+}
+
+/// Waits until the screen's server has done all that it was asked for.
+void syncWithScreen()
+{
+    gdk_display_sync(gdk_display_get_default());
 }
 
 } // namespace
@@ -58,19 +53,18 @@ DrivenDocument::DrivenDocument(const std::filesystem::path& database, const std:
 }
 
 DrivenFrame::DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition)
-    : DrivenDocument(database, definition), MainFrame(driven, "/suite/"), tagGrid(findOtherGrid(*this, *mapGrid)),
+    : DrivenDocument(database, definition), MainFrame(driven, "/suite/"), tagGrid(findOtherGrid(*this, mapGrid)),
       filter(dynamic_cast<wxTextCtrl*>(findByTooltip(*this, "Tagname and Description filter")))
 {
 }
 
-void DrivenFrame::press(int key)
+void DrivenFrame::press(int key, bool control)
 {
-    sendKey(*mapGrid, key, false);
-}
-
-void DrivenFrame::pressControl(int key)
-{
-    sendKey(*mapGrid, key, true);
+    wxKeyEvent event(wxEVT_KEY_DOWN);
+    event.SetEventObject(mapGrid);
+    event.m_keyCode = key;
+    event.SetControlDown(control);
+    mapGrid->GetEventHandler()->ProcessEvent(event);
 }
 
 void DrivenFrame::click(const wxString& tooltip)
@@ -92,17 +86,27 @@ void DrivenFrame::showAllRegisters()
         press(WXK_SPACE);
 }
 
-FrameOnScreen::FrameOnScreen()
+void DrivenFrame::selectRows(int first, int last)
 {
-    const auto database = folder.file("plant.json");
-    const auto definition = folder.file("map.csv");
-    writeInput(database, fullDatabaseJson());
-    RegisterMap map;
-    fillWithObjects(map);
-    writeInput(definition, definitionText(map));
+    mapGrid->ClearSelection();
+    mapGrid->SelectBlock(first, 0, last, mapGrid->GetNumberCols() - 1);
+}
 
-    frame = new DrivenFrame(database, definition);
-    showMaximised(*frame, *frame->mapRows().GetGridWindow());
+FrameOnScreen::FrameOnScreen(const std::string& map)
+{
+    frame = new DrivenFrame(folder.input("plant.json", fullDatabaseJson()), folder.input("map.csv", map));
+    auto* const part = frame->mapRows().GetGridWindow();
+    const auto painted = std::make_shared<bool>(false);
+    part->Bind(wxEVT_PAINT,
+               [painted](wxPaintEvent& event)
+               {
+                   *painted = true;
+                   event.Skip();
+               });
+    frame->Maximize();
+    frame->Show();
+    while (!*painted)
+        handleEvents();
     frame->settleLayout();
     handleEvents();
 }
@@ -111,27 +115,25 @@ FrameOnScreen::~FrameOnScreen()
 {
     frame->Destroy();
     handleEvents();
+    syncWithScreen(); // whatever is shown next must not find the window still there
+}
+
+RegistersCopy::RegistersCopy(const RegisterMap& map)
+{
+    for (const RegisterSpace space : allSpaces)
+        spaces.push_back(std::make_unique<RegisterSlots>(map.slots(space)));
+}
+
+void RegistersCopy::restore(RegisterMap& map) const
+{
+    for (const RegisterSpace space : allSpaces)
+        map.slots(space) = *spaces[static_cast<std::size_t>(space)];
 }
 
 void handleEvents()
 {
     wxTheApp->Yield();
     wxTheApp->ProcessIdle();
-}
-
-void showMaximised(wxFrame& frame, wxWindow& part)
-{
-    const auto painted = std::make_shared<bool>(false);
-    part.Bind(wxEVT_PAINT,
-              [painted](wxPaintEvent& event)
-              {
-                  *painted = true;
-                  event.Skip();
-              });
-    frame.Maximize();
-    frame.Show();
-    while (!*painted)
-        handleEvents();
 }
 
 void paintNow(wxWindow& window)

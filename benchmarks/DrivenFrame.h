@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
 
 class wxGrid;
 class wxTextCtrl;
@@ -18,8 +19,7 @@ struct DrivenDocument
     Document driven;
 };
 
-/// The main window on the full-size plant, driven as a user does: keys to the map grid, clicks on buttons, typing into
-/// the filter.
+/// The main window, driven as a user does: keys to the map grid, clicks on buttons, typing into the filter.
 class DrivenFrame : private DrivenDocument, public MainFrame
 {
 public:
@@ -27,10 +27,10 @@ public:
 
     wxGrid& mapRows() { return *mapGrid; }
     wxGrid& tagRows() { return *tagGrid; }
+    RegisterMap& registers() { return driven.map; }
 
     /// Presses a key in the map grid.
-    void press(int key);
-    void pressControl(int key);
+    void press(int key, bool control = false);
 
     /// Clicks the button that has this tooltip.
     void click(const wxString& tooltip);
@@ -41,16 +41,20 @@ public:
     /// Toggles the view until the map grid shows every register.
     void showAllRegisters();
 
+    /// Selects rows of the map grid, and those alone.
+    void selectRows(int first, int last);
+
 private:
     wxGrid* tagGrid;
     wxTextCtrl* filter;
 };
 
-/// Shows the main window on the plant's database and map, maximised and painted, and takes it away again.
+/// Shows the main window on the plant of the largest size, maximised and painted, and takes it away again.
 class FrameOnScreen
 {
 public:
-    FrameOnScreen();
+    /// @param map  text of the definition file
+    explicit FrameOnScreen(const std::string& map);
     ~FrameOnScreen();
     FrameOnScreen(const FrameOnScreen&) = delete;
     FrameOnScreen& operator=(const FrameOnScreen&) = delete;
@@ -63,11 +67,19 @@ private:
     DrivenFrame* frame = nullptr;
 };
 
+/// A copy of all registers, to go back to between two measurements.
+class RegistersCopy
+{
+public:
+    explicit RegistersCopy(const RegisterMap& map);
+    void restore(RegisterMap& map) const;
+
+private:
+    std::vector<std::unique_ptr<RegisterSlots>> spaces;
+};
+
 /// Handles what is waiting for the program, painting included.
 void handleEvents();
-
-/// Shows a frame over the whole screen and handles events until one of its windows has been painted.
-void showMaximised(wxFrame& frame, wxWindow& part);
 
 /// Paints what has changed in a window at once and waits until the screen has it.
 void paintNow(wxWindow& window);

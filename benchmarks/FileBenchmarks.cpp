@@ -1,33 +1,27 @@
-// Reading and writing the program's files at their largest.
+// Reading, judging and writing the program's files at their largest.
 
 #include "benchmarks/Benchmarks.h"
 #include "benchmarks/FullSize.h"
 #include "benchmarks/Measure.h"
 #include "benchmarks/ScratchFiles.h"
 #include "map/DefinitionFile.h"
+#include "map/Document.h"
 #include "map/MapExport.h"
-#include "source/TagDatabaseLoader.h"
 #include "source/TagFilter.h"
-
-#include <rapidjson/document.h>
 
 namespace
 {
 
-/// The plant of a number that no round before has had: its texts are as new to the program as at its start.
-std::string unseenDatabase()
-{
-    static int seriesUsed = 0;
-    return fullDatabaseJson(++seriesUsed);
-}
-
+/// Loads as the program does, up to the index for searching. Texts stay for the life of a process, so every round loads
+/// a plant whose texts are as new as they are at a start.
 void loadDatabase(benchmark::State& state)
 {
+    static int series = 0;
     const ScratchFolder folder;
-    const auto path = folder.file("plant.json");
+    std::filesystem::path path;
     int tagCount = 0;
-    measureApart(
-        state, [&] { writeInput(path, unseenDatabase()); },
+    measure(
+        state, [&] { path = folder.input("plant.json", fullDatabaseJson(++series)); },
         [&]
         {
             TagDatabase database;
@@ -35,75 +29,57 @@ void loadDatabase(benchmark::State& state)
             const TagSearchIndex index(database.tags);
             benchmark::DoNotOptimize(&index);
             tagCount = database.tags.count();
-        },
-        [&] { return tagCount == tagCapacity; });
+        });
+    if (tagCount != tagCapacity)
+        state.SkipWithError("the database is not loaded");
 }
 
-void parseJson(benchmark::State& state)
+/// The plant's files and what is loaded from them.
+class LoadedPlant
 {
-    const std::string bytes = fullDatabaseJson();
-    measure(state,
-            [&]
-            {
-                rapidjson::Document document;
-                document.Parse<rapidjson::kParseIterativeFlag>(bytes.data(), bytes.size());
-                benchmark::DoNotOptimize(document.HasParseError());
-            });
-}
+public:
+    /// @param map  text of the definition file
+    explicit LoadedPlant(const std::string& map)
+        : definition(folder.input("map.csv", map)),
+          document(folder.input("plant.json", fullDatabaseJson()), definition, 0)
+    {
+        document.loadDatabase();
+        document.loadDefinition();
+    }
 
-/// Where the bytes of a file are when it is read.
-enum class FileIn
-{
-    Memory, ///< read before
-    Disk
+    ScratchFolder folder;
+    std::filesystem::path definition;
+    Document document;
 };
 
-void prepareReading(const std::filesystem::path& path, FileIn place)
+void loadMap(benchmark::State& state)
 {
-    if (place == FileIn::Disk)
-        forgetContents(path);
+    LoadedPlant plant(mapOfObjects());
+    RegisterMap& map = plant.document.map;
+    measure(
+        state,
+        [&]
+        {
+            map.initialise();
+            forgetContents(plant.definition);
+        },
+        [&] { benchmark::DoNotOptimize(loadDefinitionFile(plant.definition, map, plant.document.database.tags)); });
+    if (map.currentSlots()[0].tagname.view().empty())
+        state.SkipWithError("the map is not loaded");
 }
 
-Measurement loadingMap(FileIn place)
+Measurement validating(std::string (*mapText)())
 {
     return [=](benchmark::State& state)
     {
-        const ScratchFolder folder;
-        const auto path = folder.file("map.csv");
-        const TagTable tags = fullTags();
-        RegisterMap map;
-        fillWithObjects(map);
-        writeInput(path, definitionText(map));
-        measure(
-            state,
-            [&]
-            {
-                map.initialise();
-                prepareReading(path, place);
-            },
-            [&] { benchmark::DoNotOptimize(loadDefinitionFile(path, map, tags)); });
-        if (!map.currentSlots()[lastAddress].used)
-            state.SkipWithError("the map is not loaded");
-    };
-}
-
-Measurement readingMapFile(FileIn place)
-{
-    return [=](benchmark::State& state)
-    {
-        const ScratchFolder folder;
-        const auto path = folder.file("map.csv");
-        RegisterMap map;
-        fillWithObjects(map);
-        writeInput(path, definitionText(map));
-        measure(
-            state, [&] { prepareReading(path, place); }, [&] { benchmark::DoNotOptimize(readPlainly(path)); });
+        LoadedPlant plant(mapText());
+        measure(state, [&] { plant.document.validate(); });
+        if (plant.document.map.currentSlots()[0].tagIndex < 0)
+            state.SkipWithError("a tag of the plant is not found");
     };
 }
 
 using WriteFile = bool (*)(const std::filesystem::path&, const RegisterMap&);
-using MakeText = std::string (*)(const RegisterMap&);
-
 bool exportTo(const std::filesystem::path& path, const RegisterMap& map)
 {
     return exportMap(map, path);
@@ -114,48 +90,36 @@ Measurement writing(WriteFile write, const char* name)
 {
     return [=](benchmark::State& state)
     {
-        const ScratchFolder folder;
-        const auto path = folder.file(name);
-        const TagTable tags = fullTags();
-        RegisterMap map;
-        fillWithObjects(map);
+        const LoadedPlant plant(mapOfObjects());
         measure(state,
                 [&]
                 {
-                    if (!write(path, map))
+                    if (!write(plant.folder.file(name), plant.document.map))
                         state.SkipWithError("the file is not written");
                 });
     };
 }
 
-Measurement writingTheSame(MakeText makeText)
+void writeTheSame(benchmark::State& state)
 {
-    return [=](benchmark::State& state)
-    {
-        const ScratchFolder folder;
-        RegisterMap map;
-        fillWithObjects(map);
-        const std::string text = makeText(map);
-        measure(state, [&] { writeAndSync(folder.file("same"), text); });
-    };
+    const LoadedPlant plant(mapOfObjects());
+    const std::string text = definitionText(plant.document.map);
+    measure(state, [&] { writeAndSync(plant.folder.file("same"), text); });
 }
 
 } // namespace
 
-void addFileBenchmarks(RatioTable& table)
+void addFileBenchmarks(ResultTable& table)
 {
-    const std::string sameBytes = "write and sync the same bytes";
-
-    table.add({.work = "load a 65,536-tag database", .yardstick = "the JSON parser alone", .ratio = 3}, 3, loadDatabase,
-              parseJson);
-    table.add({.work = "load a map of 65,536 objects, from disk", .yardstick = "read the same bytes", .ratio = 6}, 5,
-              loadingMap(FileIn::Disk), readingMapFile(FileIn::Disk));
-    table.add({.work = "load it when read before", .yardstick = "read the same bytes"}, 5, loadingMap(FileIn::Memory),
-              readingMapFile(FileIn::Memory));
-    table.add({.work = "save it", .yardstick = sameBytes, .ratio = 4}, 5, writing(saveDefinitionFile, "map.csv"),
-              writingTheSame(definitionText));
-    table.add({.work = "export it as CSV", .yardstick = sameBytes, .ratio = 4}, 5, writing(exportTo, "map.csv"),
-              writingTheSame(exportCsv));
-    table.add({.work = "export it as text", .yardstick = sameBytes, .ratio = 4}, 5, writing(exportTo, "map.txt"),
-              writingTheSame(exportTextReport));
+    table.add({.work = "save it",
+               .measurement = writing(saveDefinitionFile, "map.csv"),
+               .yardstick = "writing and syncing the same bytes",
+               .yardstickMeasurement = writeTheSame,
+               .milliseconds = 50});
+    table.add({.work = "export it as CSV", .measurement = writing(exportTo, "map.csv")});
+    table.add({.work = "export it as text", .measurement = writing(exportTo, "map.txt")});
+    table.add({.work = "validateMap, 65,536 objects", .measurement = validating(mapOfObjects)});
+    table.add({.work = "validateMap, 262,144 objects", .measurement = validating(mapOfSingleRegisters)});
+    table.add({.work = "load a map of 65,536 objects, from disk", .measurement = loadMap});
+    table.add({.work = "load a 65,536-tag database", .measurement = loadDatabase, .rounds = 3});
 }

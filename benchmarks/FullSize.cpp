@@ -1,9 +1,11 @@
 #include "benchmarks/FullSize.h"
 
-#include "text/Integers.h"
+#include "map/RegisterSpace.h"
+#include "source/TagTable.h"
 
 #include <array>
 #include <cstdio>
+#include <vector>
 
 namespace
 {
@@ -32,42 +34,40 @@ constexpr std::array<Word, 8> quantities{{{"FLOW", "discharge flow"},
                                           {"VIB", "vibration"},
                                           {"POS", "position"}}};
 
-/// What a tag tells about a quantity, how the database describes it, and the registers that it is published in.
+/// What a tag tells about a quantity, how the database describes it, and how the map publishes it.
 struct Aspect
 {
     Word word;
     const char* typeWord;
-    TagType type;
-    int size;
-    int elements;
-    DataType published;
+    unsigned size;
+    unsigned elements;
+    const char* published;
+    const char* byteOrder;
     int registers;
 };
 
-constexpr std::array<Aspect, 8> aspects{
-    {{{"PV", "process value"}, "Numeric", TagType::Numeric, 4, 1, DataType::Float, 2},
-     {{"SP", "set point"}, "Numeric", TagType::Numeric, 4, 2, DataType::Float, 2},
-     {{"HI", "high limit"}, "Numeric", TagType::Numeric, 8, 2, DataType::Double, 4},
-     {{"LO", "low limit"}, "Integer", TagType::Integer, 4, 2, DataType::Int32, 2},
-     {{"ALM", "alarm state"}, "Integer", TagType::Integer, 2, 1, DataType::Int16, 1},
-     {{"CMD", "command"}, "Integer", TagType::Integer, 2, 2, DataType::Int16, 1},
-     {{"STS", "state in words"}, "String", TagType::String, 20, 1, DataType::String, 10},
-     {{"TXT", "operator's note"}, "String", TagType::String, 20, 2, DataType::String, 10}}};
+/// Characters of a text.
+constexpr unsigned textSize = 20;
+
+constexpr std::array<Aspect, 8> aspects{{{{"PV", "process value"}, "Numeric", 4, 1, "FLOAT", "WORDS", 2},
+                                         {{"SP", "set point"}, "Numeric", 4, 2, "FLOAT", "WORDS", 2},
+                                         {{"HI", "high limit"}, "Numeric", 8, 2, "DOUBLE", "NONE", 4},
+                                         {{"LO", "low limit"}, "Integer", 4, 2, "INT32", "WORDS", 2},
+                                         {{"ALM", "alarm state"}, "Integer", 2, 1, "INT16", "NONE", 1},
+                                         {{"CMD", "command"}, "Integer", 2, 2, "INT16", "NONE", 1},
+                                         {{"STS", "state in words"}, "String", textSize, 1, "STRING", "NONE", 10},
+                                         {{"TXT", "operator's note"}, "String", textSize, 2, "STRING", "NONE", 10}}};
 
 constexpr int tagsPerUnit = static_cast<int>(quantities.size() * aspects.size());
 constexpr int unitsPerKind = tagCapacity / tagsPerUnit / static_cast<int>(equipment.size());
 
 /// Numbers the units of one kind of equipment from 001 on; every series has its own numbers.
-struct Unit
+std::string unitNumber(int unit, int series)
 {
-    const Word& kind;
-    std::array<char, 16> number{};
-
-    Unit(int index, int series) : kind(equipment[static_cast<std::size_t>(index / unitsPerKind)])
-    {
-        std::snprintf(number.data(), number.size(), "%03d", 1 + index % unitsPerKind + series * unitsPerKind);
-    }
-};
+    std::array<char, 16> digits{};
+    std::snprintf(digits.data(), digits.size(), "%03d", 1 + unit % unitsPerKind + series * unitsPerKind);
+    return digits.data();
+}
 
 struct PlantTag
 {
@@ -79,159 +79,130 @@ struct PlantTag
 
 PlantTag plantTag(int index, int series)
 {
-    const Unit unit(index / tagsPerUnit, series);
+    const int unit = index / tagsPerUnit;
     const auto inUnit = static_cast<std::size_t>(index % tagsPerUnit);
+    const Word& kind = equipment[static_cast<std::size_t>(unit / unitsPerKind)];
     const Word& quantity = quantities[inUnit / aspects.size()];
     const Aspect& aspect = aspects[inUnit % aspects.size()];
-    const unsigned groups = 1U << (inUnit / aspects.size()) | 0x100U << (inUnit % aspects.size());
-    return {std::string(unit.kind.code) + unit.number.data() + '_' + quantity.code + '_' + aspect.word.code,
-            std::string(unit.kind.meaning) + ' ' + unit.number.data() + ' ' + quantity.meaning + " " +
-                aspect.word.meaning,
-            aspect, groups};
+    const std::string number = unitNumber(unit, series);
+    return {kind.code + number + '_' + quantity.code + '_' + aspect.word.code,
+            kind.meaning + (' ' + number) + ' ' + quantity.meaning + ' ' + aspect.word.meaning, aspect,
+            1U << (inUnit / aspects.size()) | 0x100U << (inUnit % aspects.size())};
 }
 
-void appendGroup(std::string& json, unsigned mask, const Word& word)
+std::string member(const char* name, const std::string& text)
 {
-    std::array<char, 16> digits{};
-    std::snprintf(digits.data(), digits.size(), "%x", mask);
-    json += std::string("  {\n   \"mask\": \"") + digits.data() + "\",\n   \"flag\": \"" + word.code +
-            "\",\n   \"type\": \"flag\",\n   \"desc\": \"Everything about " + word.meaning + "\"\n  },\n";
+    return '"' + std::string(name) + "\": \"" + text + '"';
 }
 
-void endList(std::string& json, const char* closing)
+std::string member(const char* name, unsigned number)
 {
-    json.erase(json.size() - 2); // the comma and the line end behind the last element
-    json += closing;
+    return '"' + std::string(name) + "\": " + std::to_string(number);
 }
 
-void appendGroups(std::string& json)
+std::string object(const std::vector<std::string>& members)
 {
-    json += " \"database_groups\": [\n";
-    unsigned mask = 1;
-    for (const Word& quantity : quantities)
+    std::string json = "  {\n";
+    for (const std::string& each : members)
+        json += "   " + each + (&each == &members.back() ? "\n  }" : ",\n");
+    return json;
+}
+
+/// @param element  the JSON of an element, by its number
+template <class E>
+std::string list(const char* name, int count, E element)
+{
+    std::string json = " \"" + std::string(name) + "\": [\n";
+    for (int i = 0; i < count; ++i)
+        json += element(i) + (i + 1 < count ? ",\n" : "\n ]");
+    return json;
+}
+
+std::string group(int number)
+{
+    const auto index = static_cast<std::size_t>(number);
+    const Word& word = index < quantities.size() ? quantities[index] : aspects[index - quantities.size()].word;
+    std::array<char, 16> mask{};
+    std::snprintf(mask.data(), mask.size(), "%x", 1U << index);
+    return object({member("mask", mask.data()), member("flag", word.code), member("type", "flag"),
+                   member("desc", std::string("Everything about ") + word.meaning)});
+}
+
+/// A node of the tree for each kind of equipment, and below it one for each unit.
+std::string kindNode(int kind, int series)
+{
+    const Word& word = equipment[static_cast<std::size_t>(kind)];
+    const auto unitNode = [&](int unit)
     {
-        appendGroup(json, mask, quantity);
-        mask <<= 1U;
-    }
-    for (const Aspect& aspect : aspects)
-    {
-        appendGroup(json, mask, aspect.word);
-        mask <<= 1U;
-    }
-    endList(json, "\n ],\n");
+        const std::string number = unitNumber(unit, series);
+        return object({member("lable", word.meaning + (' ' + number)), member("dbprefix", word.code + number + '_')});
+    };
+    return object(
+        {member("lable", word.meaning), member("dbprefix", word.code), list("structure", unitsPerKind, unitNode)});
 }
 
-void appendStructure(std::string& json, int series)
+std::string tagObject(const PlantTag& tag)
 {
-    json += " \"structure\": [\n  {\n   \"lable\": \"Plant\",\n   \"dbprefix\": \"\",\n   \"structure\": [\n";
-    for (int kind = 0; kind < static_cast<int>(equipment.size()); ++kind)
-    {
-        const Word& word = equipment[static_cast<std::size_t>(kind)];
-        json += std::string("    {\n     \"lable\": \"") + word.meaning + "\",\n     \"dbprefix\": \"" + word.code +
-                "\",\n     \"structure\": [\n";
-        for (int i = 0; i < unitsPerKind; ++i)
-        {
-            const Unit unit(kind * unitsPerKind + i, series);
-            json += std::string("      {\n       \"lable\": \"") + word.meaning + ' ' + unit.number.data() +
-                    "\",\n       \"dbprefix\": \"" + word.code + unit.number.data() + "_\"\n      },\n";
-        }
-        endList(json, "\n     ]\n    },\n");
-    }
-    endList(json, "\n   ]\n  }\n ],\n");
+    return object({member("Name", tag.name), member("Description", tag.description),
+                   member("Type", tag.aspect.typeWord), member("Size", tag.aspect.size),
+                   member("Elements", tag.aspect.elements), member("Attributes", 0U), member("Groups", tag.groups)});
 }
 
-void appendTag(std::string& json, const PlantTag& tag)
+/// One line of a definition file, by what stands in its fields.
+std::string objectLine(RegisterSpace space, int address, const PlantTag& tag, const Aspect& published)
 {
-    json += "  {\n   \"Name\": \"" + tag.name + "\",\n   \"Description\": \"" + tag.description +
-            "\",\n   \"Type\": \"" + tag.aspect.typeWord + "\",\n   \"Size\": " + std::to_string(tag.aspect.size) +
-            ",\n   \"Elements\": " + std::to_string(tag.aspect.elements) +
-            ",\n   \"Attributes\": 0,\n   \"Groups\": " + std::to_string(tag.groups) + "\n  },\n";
-}
-
-RegisterEntry entryOf(const PlantTag& tag)
-{
-    RegisterEntry entry;
-    entry.tagname = InternedText(tag.name);
-    entry.description = InternedText(tag.description);
-    return entry;
+    const char* const writable = published.elements > 1 ? ".1" : "";
+    std::string line(spaceKeyword(space));
+    line += ',' + std::to_string(address) + ',' + published.byteOrder + ',' + published.published + ',' + tag.name +
+            writable + ',' + tag.description + ',' + std::to_string(published.registers) + ",UNLOCKED,OK\n";
+    return line;
 }
 
 } // namespace
 
 std::string fullDatabaseJson(int series)
 {
-    std::string json = "{\n";
-    appendGroups(json);
-    appendStructure(json, series);
-    json += " \"database\": [\n";
-    for (int i = 0; i < tagCapacity; ++i)
-        appendTag(json, plantTag(i, series));
-    endList(json, "\n ]\n}\n");
-    return json;
-}
-
-TagTable fullTags()
-{
-    TagTable tags;
-    for (int i = 0; i < tagCapacity; ++i)
+    const auto kinds = [&](int kind) { return kindNode(kind, series); };
+    const auto plant = [&](int)
     {
-        const PlantTag tag = plantTag(i, 0);
-        TagRecord record;
-        record.name = InternedText(tag.name);
-        record.description = InternedText(tag.description);
-        record.type = tag.aspect.type;
-        record.size = static_cast<std::uint8_t>(tag.aspect.size);
-        record.elements = tag.aspect.elements;
-        record.groups = tag.groups;
-        tags.append(record);
-    }
-    return tags;
+        return object({member("lable", "Plant"), member("dbprefix", ""),
+                       list("structure", static_cast<int>(equipment.size()), kinds)});
+    };
+    return "{\n" + list("database_groups", static_cast<int>(quantities.size() + aspects.size()), group) + ",\n" +
+           list("structure", 1, plant) + ",\n" +
+           list("database", tagCapacity, [&](int tag) { return tagObject(plantTag(tag, series)); }) + "\n}\n";
 }
 
-std::string fullTagLines()
-{
-    std::string lines;
-    for (int i = 0; i < tagCapacity; ++i)
-    {
-        const PlantTag tag = plantTag(i, 0);
-        lines += tag.name + '\t' + tag.description + '\n';
-    }
-    return lines;
-}
-
-void fillWithObjects(RegisterMap& map)
+std::string mapOfObjects()
 {
     constexpr int tagsPerSpace = tagCapacity / spaceCount;
+    std::string lines;
     for (const RegisterSpace space : allSpaces)
     {
         int address = 0;
         for (int i = 0; i < tagsPerSpace; ++i)
         {
             const PlantTag tag = plantTag(static_cast<int>(space) * tagsPerSpace + i, 0);
-            RegisterEntry entry = entryOf(tag);
-            entry.type = tag.aspect.published;
-            entry.registerCount = static_cast<std::uint32_t>(tag.aspect.registers);
-            entry.SwapWords = tag.aspect.registers == 2;
-            entry.write = tag.aspect.elements > 1;
-            map.placeObject(space, address, entry, tag.aspect.registers);
+            lines += objectLine(space, address, tag, tag.aspect);
             address += tag.aspect.registers;
         }
     }
+    return lines;
 }
 
-void fillWithSingleRegisters(RegisterMap& map)
+std::string mapOfSingleRegisters()
 {
-    for (int i = 0; i < tagCapacity; ++i)
+    // A text of one register is too short for its tag; anything else fits into one as an INT16.
+    constexpr Aspect number{{}, "", 0, 1, "INT16", "NONE", 1};
+    constexpr Aspect text{{}, "", 0, 1, "STRING", "NONE", 1};
+    std::string lines;
+    for (const RegisterSpace space : allSpaces)
     {
-        const PlantTag tag = plantTag(i, 0);
-        RegisterEntry entry = entryOf(tag);
-        entry.type = tag.aspect.published;
-        for (const RegisterSpace space : allSpaces)
-            map.placeObject(space, i, entry, 1);
+        for (int i = 0; i < tagCapacity; ++i)
+        {
+            const PlantTag tag = plantTag(i, 0);
+            lines += objectLine(space, i, tag, tag.aspect.size == textSize ? text : number);
+        }
     }
-}
-
-std::unique_ptr<RegisterSlots> copyOf(const RegisterSlots& slots)
-{
-    return std::make_unique<RegisterSlots>(slots);
+    return lines;
 }

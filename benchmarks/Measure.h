@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <chrono>
-#include <functional>
-#include <optional>
-#include <stdexcept>
+#include <vector>
 
-/// Name of the counter that holds the quickest iteration of a measurement, in milliseconds.
+/// Counters of a measurement, in milliseconds: its quickest round, and what half and 99 of 100 rounds kept below.
 constexpr const char* quickestCounter = "quickest_ms";
+constexpr const char* medianCounter = "p50_ms";
+constexpr const char* slowestCounter = "p99_ms";
 
 using Seconds = std::chrono::duration<double>;
 
@@ -22,41 +22,49 @@ Seconds timeOf(W work)
     return std::chrono::steady_clock::now() - start;
 }
 
-/// Lets `round` run in a process of its own, a copy of this one, and end with it.
-/// @param round  returns a time
-/// @return that time; nothing when the process ended otherwise
-std::optional<Seconds> inProcessOfItsOwn(const std::function<Seconds()>& round);
-
-/// Keeps the times of the iterations of one benchmark.
+/// Keeps the times of the rounds of one benchmark; its counters are set when it goes.
 class Stopwatch
 {
 public:
     explicit Stopwatch(benchmark::State& benchmarkState) : state(benchmarkState) {}
-    ~Stopwatch() { state.counters[quickestCounter] = std::chrono::duration<double, std::milli>(quickest).count(); }
+    ~Stopwatch()
+    {
+        std::sort(times.begin(), times.end());
+        set(quickestCounter, 0);
+        set(medianCounter, 50);
+        set(slowestCounter, 99);
+    }
     Stopwatch(const Stopwatch&) = delete;
     Stopwatch& operator=(const Stopwatch&) = delete;
 
     void add(Seconds time)
     {
         state.SetIterationTime(time.count());
-        quickest = std::min(quickest, time);
+        times.push_back(time);
     }
 
 private:
+    void set(const char* counter, std::size_t percentile)
+    {
+        if (times.empty())
+            return;
+        const Seconds time = times[(times.size() - 1) * percentile / 100];
+        state.counters[counter] = std::chrono::duration<double, std::milli>(time).count();
+    }
+
     benchmark::State& state;
-    Seconds quickest = Seconds::max();
+    std::vector<Seconds> times;
 };
 
-/// Measures `work` once per iteration, behind a first round that does not count: work and yardstick start alike, with
-/// the memory they need in reach.
-/// @param prepare  called in front of each round and not measured
+/// Measures `work` once in each round, after a first one that does not count: the memory it needs is in reach by then.
+/// @param prepare  called before each round and not measured
 template <class P, class W>
 void measure(benchmark::State& state, P prepare, W work)
 {
     prepare();
     work();
     Stopwatch stopwatch(state);
-    for ([[maybe_unused]] auto iteration : state)
+    for ([[maybe_unused]] auto round : state)
     {
         prepare();
         stopwatch.add(timeOf(work));
@@ -68,30 +76,4 @@ void measure(benchmark::State& state, W work)
 {
     measure(
         state, [] {}, work);
-}
-
-/// Measures `work` as `measure` does, each iteration with its first round in a process of its own.
-///
-/// Texts that were made once stay for the life of a process; work that makes many would slow down from round to round.
-/// @param prepare    called in front of each round and not measured
-/// @param succeeded  asked at the end whether the work was done
-template <class P, class W, class S>
-void measureApart(benchmark::State& state, P prepare, W work, S succeeded)
-{
-    Stopwatch stopwatch(state);
-    for ([[maybe_unused]] auto iteration : state)
-    {
-        const auto time = inProcessOfItsOwn(
-            [&]
-            {
-                prepare();
-                work();
-                prepare();
-                const Seconds taken = timeOf(work);
-                return succeeded() ? taken : throw std::runtime_error("the work was not done");
-            });
-        if (!time)
-            return state.SkipWithError("the work was not done");
-        stopwatch.add(*time);
-    }
 }

@@ -32,15 +32,11 @@ ScratchFolder::~ScratchFolder()
     fs::remove_all(folder, ignored);
 }
 
-std::string readPlainly(const fs::path& path)
+fs::path ScratchFolder::input(std::string_view name, std::string_view bytes) const
 {
-    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    require(file >= 0, path);
-    std::string bytes(fs::file_size(path), '\0');
-    const ssize_t count = ::read(file, bytes.data(), bytes.size());
-    ::close(file);
-    require(count == static_cast<ssize_t>(bytes.size()), path);
-    return bytes;
+    fs::path path = file(name);
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path;
 }
 
 void forgetContents(const fs::path& path)
@@ -61,9 +57,4 @@ void writeAndSync(const fs::path& path, std::string_view bytes)
     const bool synced = ::fsync(file) == 0;
     ::close(file);
     require(written && synced, path);
-}
-
-void writeInput(const fs::path& path, std::string_view bytes)
-{
-    std::ofstream(path, std::ios::binary) << bytes;
 }

@@ -1,4 +1,4 @@
-// The benchmark program: work and yardsticks at full size, printed as a table.
+// The benchmark program: work at full size, its limits and yardsticks, printed as a table.
 
 #include "benchmarks/Benchmarks.h"
 #include "ui/Desktop.h"
@@ -29,13 +29,10 @@ public:
 
 void runBenchmarks()
 {
-    RatioTable table;
-    addFileBenchmarks(table);
-    addMapBenchmarks(table);
-    addEditingBenchmarks(table);
-    addFilterBenchmarks(table);
-    addGridBenchmarks(table);
+    ResultTable table;
     addCommandBenchmarks(table);
+    addViewBenchmarks(table);
+    addFileBenchmarks(table);
     addStartBenchmarks(table);
     benchmark::RunSpecifiedBenchmarks(&table);
 }
