@@ -24,6 +24,11 @@ constexpr Rgb selection{51, 153, 255};
 
 GridOnScreen::GridOnScreen(PrivateScreen& itsScreen, const Rectangle& itsArea) : screen(itsScreen), area(itsArea) {}
 
+Rectangle GridOnScreen::placeOfRows(int first, int count) const
+{
+    return {area.x, area.y + first * rowHeight, area.width, count * rowHeight};
+}
+
 Point GridOnScreen::placeIn(int row) const
 {
     return {area.x + clickedPlace, area.y + row * rowHeight + rowHeight / 2};

@@ -18,6 +18,10 @@ public:
     /// The rows in view that are painted as selected.
     std::vector<int> selectedRows() const;
 
+    /// Where some of its rows are, over the grid's whole width. The column titles are as high as a row, so they are
+    /// row -1.
+    Rectangle placeOfRows(int first, int count) const;
+
     /// What its rows look like at this moment.
     Picture look() const { return screen.look(area); }
 

@@ -21,6 +21,9 @@ constexpr unsigned rightButton = 3;
 /// The property that names all windows which the window manager looks after.
 constexpr const char* clientList = "_NET_CLIENT_LIST";
 
+/// The property that names the window which has the keyboard.
+constexpr const char* activeWindow = "_NET_ACTIVE_WINDOW";
+
 /// Pixels from the place of a click to the place of the next; the toolkit takes up to 5 for a hand that trembles.
 constexpr int clickDistance = 8;
 
@@ -36,8 +39,9 @@ int ignoreError(Display* /*display*/, XErrorEvent* /*error*/)
     return 0;
 }
 
-/// The windows that the window manager names in a property of the root window.
-std::vector<Window> windowsIn(Display* display, const char* property)
+/// The numbers in a property of a window.
+/// @param wantedType  what they stand for; a property of any other type has none
+std::vector<unsigned long> numbersIn(Display* display, Window window, const char* property, Atom wantedType)
 {
     const Atom name = XInternAtom(display, property, False);
     Atom type = None;
@@ -46,13 +50,37 @@ std::vector<Window> windowsIn(Display* display, const char* property)
     unsigned long rest = 0;
     unsigned char* data = nullptr;
     constexpr long most = 1000;
-    XGetWindowProperty(display, DefaultRootWindow(display), name, 0, most, False, XA_WINDOW, &type, &format, &count,
-                       &rest, &data);
+    XGetWindowProperty(display, window, name, 0, most, False, wantedType, &type, &format, &count, &rest, &data);
     const std::unique_ptr<unsigned char, Free> owner(data);
-    if (type != XA_WINDOW)
+    if (type != wantedType)
         return {};
-    const auto* const windows = reinterpret_cast<const Window*>(data);
-    return {windows, windows + count};
+    const auto* const numbers = reinterpret_cast<const unsigned long*>(data);
+    return {numbers, numbers + count};
+}
+
+/// The windows that the window manager names in a property of the root window.
+std::vector<Window> windowsIn(Display* display, const char* property)
+{
+    return numbersIn(display, DefaultRootWindow(display), property, XA_WINDOW);
+}
+
+/// Where a window is, in pixels of the screen, with the frame that the window manager has put around it.
+Rectangle framedBounds(Display* display, Window window)
+{
+    XWindowAttributes attributes{};
+    int x = 0;
+    int y = 0;
+    Window child = None;
+    XGetWindowAttributes(display, window, &attributes);
+    XTranslateCoordinates(display, window, DefaultRootWindow(display), 0, 0, &x, &y, &child);
+    Rectangle bounds{x, y, attributes.width, attributes.height};
+    const std::vector<unsigned long> frame = numbersIn(display, window, "_NET_FRAME_EXTENTS", XA_CARDINAL);
+    if (frame.size() == 4)
+    {
+        const auto side = [&](std::size_t number) { return static_cast<int>(frame[number]); };
+        bounds = {x - side(0), y - side(2), bounds.width + side(0) + side(1), bounds.height + side(2) + side(3)};
+    }
+    return bounds;
 }
 
 std::string titleOf(Display* display, Window window)
@@ -117,7 +145,7 @@ struct PrivateScreen::Server
     Display* get() const { return display.get(); }
 };
 
-PrivateScreen::PrivateScreen() : server(std::make_unique<Server>())
+PrivateScreen::PrivateScreen(int itsScale) : server(std::make_unique<Server>()), scale(itsScale)
 {
     if (std::getenv("PRIVATE_TEST_DISPLAY") == nullptr)
         throw std::runtime_error("not a screen for tests: run this through tests/with-display");
@@ -130,11 +158,30 @@ PrivateScreen::~PrivateScreen() = default;
 
 Rectangle PrivateScreen::bounds() const
 {
-    return {0, 0, DisplayWidth(server->get(), DefaultScreen(server->get())),
-            DisplayHeight(server->get(), DefaultScreen(server->get()))};
+    return {0, 0, DisplayWidth(server->get(), DefaultScreen(server->get())) / scale,
+            DisplayHeight(server->get(), DefaultScreen(server->get())) / scale};
 }
 
 Picture PrivateScreen::look(const Rectangle& part) const
+{
+    return take({part.x * scale, part.y * scale, part.width * scale, part.height * scale}, scale);
+}
+
+Picture PrivateScreen::photograph(const Rectangle& part) const
+{
+    return take({part.x * scale, part.y * scale, part.width * scale, part.height * scale}, 1);
+}
+
+Picture PrivateScreen::photographActiveWindow() const
+{
+    const std::vector<Window> active = windowsIn(server->get(), activeWindow);
+    if (active.empty() || active.front() == None)
+        throw std::runtime_error("no window has the keyboard");
+    return take(framedBounds(server->get(), active.front()), 1);
+}
+
+/// @param step  how many pixels, across and down, one pixel of the picture stands for
+Picture PrivateScreen::take(const Rectangle& part, int step) const
 {
     const std::unique_ptr<XImage, int (*)(XImage*)> image(
         XGetImage(server->get(), DefaultRootWindow(server->get()), part.x, part.y, static_cast<unsigned>(part.width),
@@ -143,22 +190,22 @@ Picture PrivateScreen::look(const Rectangle& part) const
     if (!image)
         throw std::runtime_error("that part is not on the screen");
     std::vector<Rgb> pixels;
-    pixels.reserve(static_cast<std::size_t>(part.width) * static_cast<std::size_t>(part.height));
-    for (int y = 0; y < part.height; ++y)
+    pixels.reserve(static_cast<std::size_t>(part.width / step) * static_cast<std::size_t>(part.height / step));
+    for (int y = 0; y < part.height; y += step)
     {
-        for (int x = 0; x < part.width; ++x)
+        for (int x = 0; x < part.width; x += step)
         {
             const unsigned long pixel = XGetPixel(image.get(), x, y);
             pixels.push_back({static_cast<std::uint8_t>(pixel >> 16U), static_cast<std::uint8_t>(pixel >> 8U),
                               static_cast<std::uint8_t>(pixel)});
         }
     }
-    return {part.width, part.height, std::move(pixels)};
+    return {part.width / step, part.height / step, std::move(pixels)};
 }
 
 void PrivateScreen::move(Point place)
 {
-    XTestFakeMotionEvent(server->get(), DefaultScreen(server->get()), place.x, place.y, CurrentTime);
+    XTestFakeMotionEvent(server->get(), DefaultScreen(server->get()), place.x * scale, place.y * scale, CurrentTime);
 }
 
 void PrivateScreen::pressButton(unsigned number)
@@ -222,7 +269,7 @@ void PrivateScreen::type(std::string_view text)
 
 std::string PrivateScreen::activeTitle() const
 {
-    const std::vector<Window> active = windowsIn(server->get(), "_NET_ACTIVE_WINDOW");
+    const std::vector<Window> active = windowsIn(server->get(), activeWindow);
     return active.empty() || active.front() == None ? std::string() : titleOf(server->get(), active.front());
 }
 

@@ -40,16 +40,26 @@ enum class Modifier
 };
 
 /// Screen, mouse and keyboard, used as a person uses them. Input arrives in the order in which it is made.
+///
+/// Places and parts of the screen are counted as the program counts them, in pixels of its own.
 class PrivateScreen
 {
 public:
     /// Throws std::runtime_error without a screen, and on a screen that was not made for tests: nobody's mouse is
     /// to be taken away from him.
-    PrivateScreen();
+    /// @param scale  pixels of the screen, across and down, that the program paints for each pixel of its own; what it
+    ///               is told as GDK_SCALE
+    explicit PrivateScreen(int scale = 1);
     ~PrivateScreen();
 
     Rectangle bounds() const;
     Picture look(const Rectangle& part) const;
+
+    /// A part with every pixel that the screen has.
+    Picture photograph(const Rectangle& part) const;
+
+    /// The window that has the keyboard and the frame around it, with every pixel that the screen has.
+    Picture photographActiveWindow() const;
 
     /// Clicks once. Clicks one after the other fall a few pixels apart, so that two of them never make a double click.
     void click(Point place, Modifier modifier = Modifier::Plain);
@@ -88,6 +98,9 @@ private:
     void pressButton(unsigned number);
     void pressKeySymbol(unsigned long symbol, Modifier modifier);
 
+    Picture take(const Rectangle& pixels, int step) const;
+
     std::unique_ptr<Server> server;
+    int scale;
     bool clickAside = false;
 };

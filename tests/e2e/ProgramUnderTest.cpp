@@ -208,6 +208,13 @@ void ProgramUnderTest::waitForText(const std::string& text)
     waitForControl(text, labelSaying(text));
 }
 
+Rectangle ProgramUnderTest::placeOf(const std::string& textOrTooltip)
+{
+    return settledBounds(
+        waitForControl(textOrTooltip, [&](const Control& control)
+                       { return control.name() == textOrTooltip || control.description() == textOrTooltip; }));
+}
+
 GridOnScreen ProgramUnderTest::gridBelow(const std::string& columnTitle)
 {
     const Rectangle title = settledBounds(waitForControl(columnTitle, labelSaying(columnTitle)));

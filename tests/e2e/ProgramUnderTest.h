@@ -61,6 +61,9 @@ public:
     /// @param text  the whole of it
     void waitForText(const std::string& text);
 
+    /// Where the first control is that has this text or this tooltip.
+    Rectangle placeOf(const std::string& textOrTooltip);
+
     GridOnScreen tagGrid();
     GridOnScreen mapGrid();
 
