@@ -69,8 +69,7 @@ void readLine(std::string_view line, DefinitionPlacer& placer, const TagTable& t
     {
         return;
     }
-    if (const std::optional<DefinitionObject> object = describedObject(fields))
-        placer.add(*object);
+    placer.parseDefinitionLine(fields);
 }
 
 void appendOrder(std::string& text, const RegisterEntry& head)

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-/// What one line of a definition file says, and placing it.
+/// What one line of a definition file says.
 
 /// The nine fields of a definition line, as texts.
 struct DefinitionFields
@@ -15,7 +15,7 @@ struct DefinitionFields
     std::string_view address;     ///< head's address, a base-10 integer
     std::string_view order;       ///< any of "BYTES", "WORDS", "LONGS" anywhere in it
     std::string_view type;        ///< type name
-    std::string_view tagname;     ///< tagname, with ".1" behind it when the master may write
+    std::string_view tagname;     ///< tagname, with ".1" after it when the master may write
     std::string_view description; ///< read up to its first "{"
     std::string_view count;       ///< registers of a STRING, a base-10 integer
     std::string_view lock;        ///< locked when it begins with "LOCKED"
@@ -40,7 +40,7 @@ struct DefinitionObject
     /// The first register of the object that lies in the space; not below `endAddress` when none does.
     int firstAddress() const;
 
-    /// The address behind the last register of the object that lies in the space, at most 65536.
+    /// The address after the last register of the object that lies in the space, at most 65536.
     int endAddress() const;
 };
 
@@ -48,18 +48,3 @@ struct DefinitionObject
 /// @return nothing when the line is to be dropped: its space is unknown, its tagname holds a "." without ending in
 ///         ".1", or its object has no registers
 std::optional<DefinitionObject> describedObject(const DefinitionFields& fields);
-
-/// What the slots of an object have in common, without the byte-order flags.
-/// @param tagname, description  the object's own, made into texts of the map
-RegisterEntry slotValues(const DefinitionObject& object, InternedText tagname, InternedText description);
-
-/// Gives a slot the values of its object; its byte-order flags and what validation found out stay.
-/// @param address  of the slot, 0..65535
-void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values);
-
-/// Places the object of a single line, by which placing a whole file is measured, over whatever its slots hold, locked
-/// or not; a line to be dropped places nothing.
-///
-/// Registers outside 0..65535 are left out while the full count is kept. Byte-order flags that the line does not name
-/// stay as the slot had them.
-void parseDefinitionLine(RegisterMap& map, const DefinitionFields& fields);

@@ -3,10 +3,9 @@
 #include "map/DefinitionLine.h"
 #include "map/UnvisitedAddresses.h"
 
-#include <array>
 #include <vector>
 
-/// Places the objects of a whole definition file, with the result of placing one after the other.
+/// Places the objects of a definition file, with the result of placing one after the other.
 ///
 /// In a file of overlapping objects every line could write a whole space. Here each slot is written once, by the last
 /// object that covers it, and gets each byte-order flag once: the work is that of the lines plus that of the slots.
@@ -16,16 +15,20 @@ public:
     /// @param target  the map that the objects go to
     explicit DefinitionPlacer(RegisterMap& target);
 
-    /// Takes the next object, whose texts have to last until it is placed.
+    /// Takes the object of the next line, to be placed over whatever its slots hold, locked or not; a line to be
+    /// dropped places nothing.
     ///
-    /// The map shows it after `placeAll` at the latest.
-    void add(const DefinitionObject& object);
+    /// Registers outside 0..65535 are left out while the full count is kept. Byte-order flags that the line does not
+    /// name stay as the slot had them, and so does what validation found out. The map shows the object after
+    /// `placeAll` at the latest.
+    /// @param fields  their texts have to last until the object is placed
+    void parseDefinitionLine(const DefinitionFields& fields);
 
     /// Places the objects taken so far.
     void placeAll();
 
 private:
-    /// What the objects behind the one being placed have left of a space.
+    /// What the objects after the one being placed have left of a space.
     struct LeftOver
     {
         UnvisitedAddresses slots;
@@ -34,10 +37,7 @@ private:
         UnvisitedAddresses swapLongs;
     };
 
-    /// Tagname and description of each waiting object, in turn.
-    std::vector<InternedText> waitingTexts() const;
-
-    void place(const DefinitionObject& object, const RegisterEntry& values, LeftOver& left);
+    void place(const DefinitionObject& object, LeftOver& left);
 
     RegisterMap& map;
     std::vector<DefinitionObject> waiting;

@@ -26,10 +26,10 @@ std::optional<int> nextFreeSlot(const RegisterSlots& slots, int address)
 
 /// Follows the writing of up to `count` registers: each one either takes a free slot as it finds it, or takes the place
 /// of a used one and so uses up the next free slot behind the displaced run, which always reaches to `displacedEnd`.
-InsertionPlan planInsertion(const RegisterSlots& slots, int target, std::size_t count)
+InsertionPlan planInsertion(const RegisterSlots& slots, int target, int count)
 {
     InsertionPlan plan{target, target};
-    for (std::size_t i = 0; i < count && plan.writtenEnd <= lastAddress; ++i)
+    for (int i = 0; i < count && plan.writtenEnd <= lastAddress; ++i)
     {
         const bool nothingDisplaced = plan.displacedEnd == plan.writtenEnd;
         if (nothingDisplaced && !slots[plan.writtenEnd].used)
@@ -62,13 +62,20 @@ void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
 
 } // namespace
 
-void insertRegisters(RegisterSlots& slots, std::span<const RegisterEntry> elements, int target)
+int makeRoom(RegisterSlots& slots, int target, int count)
 {
     if (!RegisterSlots::contains(target))
-        return;
-    const InsertionPlan plan = planInsertion(slots, target, elements.size());
+        return 0;
+    const InsertionPlan plan = planInsertion(slots, target, count);
     pushDisplaced(slots, plan);
+    return plan.writtenEnd - target;
+}
+
+void insertRegisters(RegisterSlots& slots, std::span<const RegisterEntry> elements, int target)
+{
+    const auto wanted = static_cast<int>(std::min<std::size_t>(elements.size(), registersPerSpace));
+    const int end = target + makeRoom(slots, target, wanted);
     auto element = elements.begin();
-    for (int address = target; address < plan.writtenEnd; ++address, ++element)
+    for (int address = target; address < end; ++address, ++element)
         slots[address] = shifted(*element, static_cast<std::uint32_t>(address) - element->address);
 }

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
-#include <vector>
 
 namespace
 {
@@ -27,10 +26,9 @@ void clearUnusableSwaps(RegisterEntry& entry)
     entry.SwapLongs = entry.SwapLongs && hasLongs;
 }
 
-RegisterEntry entryOf(const EditedRegister& edited, int head)
+RegisterEntry entryOf(const EditedRegister& edited)
 {
-    RegisterEntry entry = freeSlot(head);
-    entry.used = true;
+    RegisterEntry entry;
     entry.type = typeFromName(edited.typeName);
     entry.registerCount = static_cast<std::uint32_t>(edited.registerCount);
     entry.SwapBytes = edited.SwapBytes;
@@ -41,17 +39,6 @@ RegisterEntry entryOf(const EditedRegister& edited, int head)
     entry.description = InternedText(edited.description);
     clearUnusableSwaps(entry);
     return entry;
-}
-
-/// One copy of an object's head for each of its registers that lies in the space.
-std::vector<RegisterEntry> registersOf(const RegisterEntry& headEntry, int head, int count)
-{
-    const int inside = std::clamp(count, 0, registersPerSpace - head);
-    std::vector<RegisterEntry> registers(static_cast<std::size_t>(inside), headEntry);
-    std::uint32_t address = headEntry.address;
-    for (RegisterEntry& entry : registers)
-        entry.address = address++;
-    return registers;
 }
 
 } // namespace
@@ -137,10 +124,11 @@ std::optional<FieldVisibility> visibilityFor(std::string_view typeName)
     return std::nullopt;
 }
 
-void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited)
+void applyEdit(RegisterMap& map, int head, const EditedRegister& edited)
 {
+    RegisterSlots& slots = map.currentSlots();
     if (!RegisterSlots::contains(head) || slots[head].locked)
         return;
     clearSlots(slots, head, registersTaken(slots[head]));
-    insertRegisters(slots, registersOf(entryOf(edited, head), head, edited.registerCount), head);
+    map.placeObject(map.currentSpace, head, entryOf(edited), makeRoom(slots, head, edited.registerCount));
 }

@@ -91,10 +91,11 @@ struct EditedRegister
     std::int32_t registerCount = 1; ///< registers; below 1 nothing takes the old object's place
 };
 
-/// Puts the edited object in the place of the one at `head` and moves what follows down as far as it has to.
+/// Puts the edited object in the place of the one at `head` of the current space and moves what follows down as far as
+/// it has to.
 ///
 /// All slots of the old object are freed first, or the one free slot that stands there. Byte-order flags that the type
 /// cannot carry are dropped. Registers beyond 65535 are dropped while the count stays; where a lock stops the moving,
 /// the registers written so far stay. Validation is left to the caller.
 /// @param head  0..65535, not locked; any other address does nothing
-void applyEdit(RegisterSlots& slots, int head, const EditedRegister& edited);
+void applyEdit(RegisterMap& map, int head, const EditedRegister& edited);

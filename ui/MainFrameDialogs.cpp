@@ -43,7 +43,7 @@ void MainFrame::editRegister()
     dialog.offerTagnames(document.database.tags);
     if (dialog.ShowModal() != wxID_OK)
         return;
-    applyEdit(slots, *head, dialog.editedRegister());
+    applyEdit(document.map, *head, dialog.editedRegister());
     document.validate();
     refreshMapView(-1);
 }

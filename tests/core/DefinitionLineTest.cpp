@@ -1,4 +1,4 @@
-#include "map/DefinitionLine.h"
+#include "map/DefinitionPlacer.h"
 
 #include <gtest/gtest.h>
 
@@ -18,9 +18,17 @@ protected:
         return {"HOLDING", "00100", "NONE", "INT16", "Tank1Level", "Level of tank 1", "1", "UNLOCKED", "OK"};
     }
 
+    /// Places a line alone.
+    void parse(const DefinitionFields& fields)
+    {
+        DefinitionPlacer placer(map);
+        placer.parseDefinitionLine(fields);
+        placer.placeAll();
+    }
+
     const RegisterEntry& place(const DefinitionFields& fields, int address = 100)
     {
-        parseDefinitionLine(map, fields);
+        parse(fields);
         return slot(address);
     }
 
@@ -77,7 +85,7 @@ TEST_F(DefinitionLine, EachKeywordLeadsToItsSpaceWhateverTheType)
         DefinitionFields fields = plain();
         fields.space = spaceKeyword(space);
         fields.type = "DOUBLE";
-        parseDefinitionLine(map, fields);
+        parse(fields);
         EXPECT_EQ(slot(100, space).type, DataType::Double);
         EXPECT_TRUE(slot(103, space).used);
     }
@@ -90,7 +98,7 @@ TEST_F(DefinitionLine, SpaceKeywordIsComparedExactly)
     {
         DefinitionFields fields = plain();
         fields.space = keyword;
-        parseDefinitionLine(map, fields);
+        parse(fields);
     }
     EXPECT_EQ(usedSlots(), 0);
 }
@@ -190,7 +198,7 @@ TEST_F(DefinitionLine, StringOfNoRegistersIsDropped)
         DefinitionFields fields = plain();
         fields.type = "STRING";
         fields.count = count;
-        parseDefinitionLine(map, fields);
+        parse(fields);
     }
     EXPECT_EQ(usedSlots(), 0);
 }
@@ -222,7 +230,7 @@ TEST_F(DefinitionLine, TagnameWithAnyOtherDotIsDropped)
     {
         DefinitionFields fields = plain();
         fields.tagname = tagname;
-        parseDefinitionLine(map, fields);
+        parse(fields);
         EXPECT_EQ(usedSlots(), 0) << tagname;
     }
 }
@@ -324,7 +332,7 @@ TEST_F(DefinitionLine, AddressBehindTheSpaceLeavesNothing)
         fields.address = address;
         fields.type = "STRING";
         fields.count = "2147483647";
-        parseDefinitionLine(map, fields);
+        parse(fields);
         EXPECT_EQ(usedSlots(), 0) << address;
     }
 }
@@ -349,13 +357,13 @@ TEST_F(DefinitionLine, NegativeAddressThatReachesNothingLeavesNothing)
         DefinitionFields fields = plain();
         fields.address = address;
         fields.type = "DOUBLE";
-        parseDefinitionLine(map, fields);
+        parse(fields);
     }
     DefinitionFields longest = plain();
     longest.address = "-2147483648";
     longest.type = "STRING";
     longest.count = "2147483647";
-    parseDefinitionLine(map, longest);
+    parse(longest);
     EXPECT_EQ(usedSlots(), 0);
 }
 
@@ -370,7 +378,7 @@ TEST_F(DefinitionLine, LongestObjectFillsTheSpaceFromAnywhere)
         fields.address = address;
         fields.type = "STRING";
         fields.count = "2147483647";
-        parseDefinitionLine(map, fields);
+        parse(fields);
         EXPECT_EQ(usedSlots(), used) << address;
     }
 }

@@ -260,7 +260,7 @@ private:
         entry.SwapWords = entry.SwapWords && entry.type != DataType::String;
         entry.tagIndex = -1;
         const bool sameEntry = editedEntry(map.currentSlots(), *head) == model.editedEntry(*head);
-        applyEdit(map.currentSlots(), *head,
+        applyEdit(map, *head,
                   {.tagname = std::string(entry.tagname.view()),
                    .description = std::string(entry.description.view()),
                    .typeName = std::string(typeName(entry.type)),

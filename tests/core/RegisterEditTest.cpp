@@ -242,7 +242,7 @@ TEST_F(RegisterEdit, ConfirmedEditWritesEveryFieldOfEveryRegister)
     values.description = "Text";
     values.write = true;
     values.SwapWords = true;
-    applyEdit(slots, 100, values);
+    applyEdit(map, 100, values);
 
     for (int address = 100; address < 104; ++address)
     {
@@ -265,7 +265,7 @@ TEST_F(RegisterEdit, ShorterObjectFreesTheRestOfItsRegisters)
 {
     place(10, 4, "A");
     place(14, 1, "B");
-    applyEdit(slots, 10, edited("A", "INT16", 1));
+    applyEdit(map, 10, edited("A", "INT16", 1));
     EXPECT_EQ(picture(10, 5), "A...B");
     for (int address = 11; address < 14; ++address)
         EXPECT_EQ(slot(address), freeSlot(address));
@@ -273,7 +273,7 @@ TEST_F(RegisterEdit, ShorterObjectFreesTheRestOfItsRegisters)
 
 TEST_F(RegisterEdit, EditOfAFreeRegisterMakesAnObjectThere)
 {
-    applyEdit(slots, 500, edited("A", "INT32", 2));
+    applyEdit(map, 500, edited("A", "INT32", 2));
     EXPECT_EQ(picture(499, 4), ".AA.");
     EXPECT_EQ(editedHead(slots, 501), 500);
 }
@@ -281,7 +281,7 @@ TEST_F(RegisterEdit, EditOfAFreeRegisterMakesAnObjectThere)
 TEST_F(RegisterEdit, UnknownTypeNameIsStoredAsInt16)
 {
     place(10, 2, "A", DataType::Int32);
-    applyEdit(slots, 10, edited("A", "BOOL", 1));
+    applyEdit(map, 10, edited("A", "BOOL", 1));
     EXPECT_EQ(slot(10).type, DataType::Int16);
     EXPECT_EQ(picture(10, 2), "A.");
 }
@@ -294,7 +294,7 @@ TEST_F(RegisterEdit, TypeKeepsOnlyTheSwapsItCanCarry)
         values.SwapBytes = true;
         values.SwapWords = true;
         values.SwapLongs = true;
-        applyEdit(slots, 10, values);
+        applyEdit(map, 10, values);
         const auto flags = byteOrderCharacters(slot(10));
         return std::string(flags.begin(), flags.end());
     };
@@ -308,7 +308,7 @@ TEST_F(RegisterEdit, TypeKeepsOnlyTheSwapsItCanCarry)
 
 TEST_F(RegisterEdit, SwapsThatAreNotSetStayUnset)
 {
-    applyEdit(slots, 10, edited("A", "DOUBLE", 4));
+    applyEdit(map, 10, edited("A", "DOUBLE", 4));
     EXPECT_EQ(byteOrderCharacters(slot(10)), (std::array<char, 3>{'-', '-', '-'}));
 }
 
@@ -317,7 +317,7 @@ TEST_F(RegisterEdit, LongerObjectMovesTheFollowingOneDown)
     place(10, 1, "A", DataType::Int16);
     place(11, 2, "B", DataType::Int32);
     EXPECT_EQ(checkSpace("4", editRoom(slots, 10)), SpaceCheck::FitsByMoving);
-    applyEdit(slots, 10, edited("A", "DOUBLE", 4));
+    applyEdit(map, 10, edited("A", "DOUBLE", 4));
     EXPECT_EQ(picture(10, 7), "AAAABB.");
     EXPECT_EQ(editedHead(slots, 15), 14);
 }
@@ -328,7 +328,7 @@ TEST_F(RegisterEdit, MovingUsesUpTheGapsBetweenFollowingObjects)
     place(12, 1, "B");
     place(14, 2, "C");
     place(20, 1, "D");
-    applyEdit(slots, 10, edited("A", "STRING", 5));
+    applyEdit(map, 10, edited("A", "STRING", 5));
     EXPECT_EQ(picture(10, 12), "AAAAABCC..D.");
 }
 
@@ -339,7 +339,7 @@ TEST_F(RegisterEdit, MovingUsesTheLastRegisterBeforeALock)
     place(15, 1, "L");
     slot(15).locked = true;
     EXPECT_EQ(editRoom(slots, 10).movableRoom, 3);
-    applyEdit(slots, 10, edited("A", "STRING", 3));
+    applyEdit(map, 10, edited("A", "STRING", 3));
     EXPECT_EQ(picture(10, 6), "AAABBL");
     EXPECT_TRUE(slot(15).locked);
 }
@@ -350,7 +350,7 @@ TEST_F(RegisterEdit, MovingThatMeetsALockLeavesWhatIsWrittenSoFar)
     place(11, 2, "B");
     place(14, 1, "L");
     slot(14).locked = true;
-    applyEdit(slots, 10, edited("A", "STRING", 4));
+    applyEdit(map, 10, edited("A", "STRING", 4));
     EXPECT_EQ(picture(10, 5), "AABBL");
     EXPECT_EQ(slot(10).registerCount, 4U);
 }
@@ -359,7 +359,7 @@ TEST_F(RegisterEdit, MovingThatMeetsTheEndOfTheSpaceLeavesWhatIsWrittenSoFar)
 {
     place(65531, 1, "A");
     place(65532, 3, "B");
-    applyEdit(slots, 65531, edited("A", "STRING", 4));
+    applyEdit(map, 65531, edited("A", "STRING", 4));
     EXPECT_EQ(picture(65531, 5), "AABBB");
 }
 
@@ -367,7 +367,7 @@ TEST_F(RegisterEdit, RegistersBehindTheEndOfTheSpaceAreDropped)
 {
     place(65534, 4, "A", DataType::Double);
     EditedRegister values = edited("B", "DOUBLE", 4);
-    applyEdit(slots, 65534, values);
+    applyEdit(map, 65534, values);
     EXPECT_EQ(picture(65533, 3), ".BB");
     EXPECT_EQ(slot(65535).registerCount, 4U);
     EXPECT_EQ(slot(65535).startAddress, 65534U);
@@ -378,7 +378,7 @@ TEST_F(RegisterEdit, EnormousCountFillsTheSpaceAndIsKept)
     place(65000, 1, "A");
     slot(65000).registerCount = 4294967295U;
     slot(0).tagname = InternedText("UNTOUCHED");
-    applyEdit(slots, 65000, edited("B", "STRING", highestCount));
+    applyEdit(map, 65000, edited("B", "STRING", highestCount));
     EXPECT_EQ(picture(64999, 537), "." + std::string(536, 'B'));
     EXPECT_EQ(slot(65535).registerCount, 2147483647U);
     EXPECT_EQ(slot(0).tagname, InternedText("UNTOUCHED"));
@@ -388,7 +388,7 @@ TEST_F(RegisterEdit, LocksOfContinuationsGoWithTheOldObject)
 {
     place(10, 2, "A");
     slot(11).locked = true;
-    applyEdit(slots, 10, edited("A", "INT32", 2));
+    applyEdit(map, 10, edited("A", "INT32", 2));
     EXPECT_FALSE(slot(11).locked);
     EXPECT_EQ(picture(10, 2), "AA");
 }
@@ -398,9 +398,9 @@ TEST_F(RegisterEdit, LockedHeadAndAddressesOutsideTheSpaceAreLeftAlone)
     place(10, 1, "A");
     slot(10).locked = true;
     const auto before = std::make_unique<RegisterSlots>(slots);
-    applyEdit(slots, 10, edited("B", "INT16", 1));
-    applyEdit(slots, -1, edited("B", "INT16", 1));
-    applyEdit(slots, 65536, edited("B", "INT16", 1));
+    applyEdit(map, 10, edited("B", "INT16", 1));
+    applyEdit(map, -1, edited("B", "INT16", 1));
+    applyEdit(map, 65536, edited("B", "INT16", 1));
     EXPECT_TRUE(slots == *before);
 }
 
@@ -409,7 +409,7 @@ TEST_F(RegisterEdit, EditWithoutChangesLeavesTheSlotsAsTheyWere)
     place(10, 3, "A");
     place(13, 2, "B");
     const auto before = std::make_unique<RegisterSlots>(slots);
-    applyEdit(slots, 10, edited("A", "STRING", 3));
+    applyEdit(map, 10, edited("A", "STRING", 3));
     EXPECT_TRUE(slots == *before);
 }
 
@@ -468,7 +468,7 @@ TEST_F(RegisterEdit, AnyPlacementEqualsPlacingRegisterByRegister)
         entry.tagname = InternedText("N");
         placeOneByOne(*expected, head, entry);
 
-        applyEdit(slots, head, edited("N", "STRING", count));
+        applyEdit(map, head, edited("N", "STRING", count));
         ASSERT_TRUE(slots == *expected) << "round " << round << ": " << picture(first, 24);
     }
 }

@@ -166,8 +166,9 @@ TEST(RegisterMoves, AddressesOutsideTheSpaceStay)
     for (const MoveDirection direction : {MoveDirection::Up, MoveDirection::Down})
     {
         std::vector<int> changed{7};
+        SlotMover mover(*slots, direction, shoving);
         for (const int address : outside)
-            EXPECT_FALSE(moveSlot(*slots, address, direction, shoving, changed));
+            EXPECT_FALSE(mover.moveSlot(address, changed));
         EXPECT_EQ(changed, (std::vector{7}));
     }
     EXPECT_EQ(moveSlots(*slots, outside, MoveDirection::Up, shoving).positions, outside);
@@ -185,7 +186,7 @@ TEST(RegisterMoves, FreeSlotMovesAsItStandsAndMakesAGap)
 {
     const auto slots = drawnSpace(10, ".BB.");
     std::vector<int> changed;
-    EXPECT_TRUE(moveSlot(*slots, 10, MoveDirection::Down, shoving, changed));
+    EXPECT_TRUE(SlotMover(*slots, MoveDirection::Down, shoving).moveSlot(10, changed));
     EXPECT_TRUE(looksLike(*slots, 10, "..BB"));
     EXPECT_EQ(changed, (std::vector{13, 12, 11}));
 }
@@ -238,7 +239,7 @@ TEST(RegisterMoves, LongRunIsShovedWithoutDeepCalls)
 {
     const auto slots = drawnSpace(0, std::string(65'535, 'A') + ".");
     std::vector<int> changed;
-    EXPECT_TRUE(moveSlot(*slots, 0, MoveDirection::Down, shoving, changed));
+    EXPECT_TRUE(SlotMover(*slots, MoveDirection::Down, shoving).moveSlot(0, changed));
     EXPECT_EQ(changed.size(), 65'535U);
     EXPECT_EQ(changed.front(), 65'535);
     EXPECT_EQ(changed.back(), 1);

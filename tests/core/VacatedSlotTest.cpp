@@ -158,14 +158,14 @@ TEST_F(VacatedSlot, EditorCountsItsRoomFromTheNextRegister)
 
 TEST_F(VacatedSlot, ConfirmedEditFreesNothingButIt)
 {
-    applyEdit(slots, 10, edited("INT16", 1));
+    applyEdit(map, 10, edited("INT16", 1));
     EXPECT_EQ(picture(), "EaaB..");
 }
 
 TEST_F(VacatedSlot, ConfirmedEditMovesTheObjectAfterItDown)
 {
     toggleLocks(slots, std::vector{11, 12});
-    applyEdit(slots, 10, edited("FLOAT", 2));
+    applyEdit(map, 10, edited("FLOAT", 2));
     EXPECT_EQ(picture(), "EEAAB.");
 }
 

@@ -217,7 +217,7 @@ private:
             return;
         const int count = std::min(chance.oneOf({1, 2, 4, 6}), editRoom(slots, *head).movableRoom);
         const RegisterEntry entry = registerOf("AD", count);
-        applyEdit(slots, *head,
+        applyEdit(map, *head,
                   {.tagname = std::string(entry.tagname.view()),
                    .description = "edited",
                    .typeName = std::string(typeName(entry.type)),
