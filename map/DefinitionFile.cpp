@@ -4,6 +4,7 @@
 #include "files/SafeWrite.h"
 #include "map/DefinitionPlacer.h"
 #include "map/PublishedName.h"
+#include "map/WrittenObjects.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
@@ -42,7 +43,8 @@ SplitLine splitLine(std::string_view line)
 /// Registers of a STRING whose line does not say: the size of the database tag of that name, else one register.
 std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
 {
-    const std::optional<int> index = tags.find(InternedText(tagnameField.substr(0, tagnameField.find('.'))));
+    const std::optional<InternedText> name = InternedText::known(tagnameField.substr(0, tagnameField.find('.')));
+    const std::optional<int> index = name ? tags.find(*name) : std::nullopt;
     if (!index || *index >= tags.count())
         return 1;
     return registersForString(tags[*index].size);
@@ -126,8 +128,11 @@ bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, con
         placer.placeAll();
         return true;
     }
-    catch (const std::bad_alloc&) // a file too large for the memory
+    catch (const std::bad_alloc&)
     {
+        // A file too large for the memory. Half a map would look like a whole one, so none is better.
+        for (const RegisterSpace space : allSpaces)
+            clearSlots(map.slots(space), 0, registersPerSpace);
         return false;
     }
 }
@@ -135,11 +140,12 @@ bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, con
 std::string definitionText(const RegisterMap& map)
 {
     std::string text;
+    reserveLines(text, map);
     for (const RegisterSpace space : allSpaces)
     {
         for (const RegisterEntry& slot : map.slots(space))
         {
-            if (slot.used && isHead(slot))
+            if (isWritten(slot))
                 appendLine(text, space, slot);
         }
     }
@@ -147,6 +153,12 @@ std::string definitionText(const RegisterMap& map)
 }
 
 bool saveDefinitionFile(const std::filesystem::path& path, const RegisterMap& map)
+try
 {
     return writeFileSafely(path, definitionText(map));
+}
+catch (const std::bad_alloc&)
+{
+    // Nothing has been written yet: the file is as it was, and the changes are still in the map.
+    return false;
 }

@@ -10,10 +10,12 @@
 
 /// Reads a definition file into the map; lines of 9, 7 or 6 fields count, all others are skipped.
 /// @param tags  sizes the STRING objects of 6-field lines
-/// @return false, with the map unchanged, when there is no such file or it cannot be read
+/// @return false when there is no such file or it cannot be read, with the map unchanged; also when it needs more
+///         memory than there is, with the map empty
 bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags);
 
 /// The whole map as the text of a definition file: UTF-8 without byte-order mark, native line ends.
+/// @throws std::bad_alloc when there is not enough memory for it
 std::string definitionText(const RegisterMap& map);
 
 /// Writes the definition file so that a crash leaves the old or the new text, never half of one.

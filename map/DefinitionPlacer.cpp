@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <ranges>
 
 namespace
 {
@@ -11,7 +12,7 @@ namespace
 /// As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight.
 constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
 
-/// What the slots of an object have in common, without the byte-order flags.
+/// What the slots of an object have in common, without the byte-order flags and the texts.
 RegisterEntry slotValues(const DefinitionObject& object)
 {
     RegisterEntry values;
@@ -21,12 +22,11 @@ RegisterEntry slotValues(const DefinitionObject& object)
     values.type = object.type;
     values.registerCount = static_cast<std::uint32_t>(object.count);
     values.write = object.write;
-    values.tagname = InternedText(object.tagname);
-    values.description = InternedText(object.description);
     return values;
 }
 
 /// Gives a slot the values of its object, field by field: its byte-order flags and what validation found out stay.
+/// The texts follow later.
 void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values)
 {
     slot.used = values.used;
@@ -36,8 +36,6 @@ void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values
     slot.type = values.type;
     slot.registerCount = values.registerCount;
     slot.write = values.write;
-    slot.tagname = values.tagname;
-    slot.description = values.description;
 }
 
 } // namespace
@@ -58,8 +56,9 @@ void DefinitionPlacer::placeAll()
 {
     // From the last line to the first: a later line wins, so what it covers need not be looked at again.
     std::array<LeftOver, spaceCount> left;
-    for (auto object = waiting.rbegin(); object != waiting.rend(); ++object)
-        place(*object, left[static_cast<std::size_t>(object->space)]);
+    for (const DefinitionObject& object : std::views::reverse(waiting))
+        place(object, left[static_cast<std::size_t>(object.space)]);
+    fillInTexts();
     waiting.clear();
 }
 
@@ -68,16 +67,16 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
     const int first = object.firstAddress();
     const int end = object.endAddress();
     RegisterSlots& slots = map.slots(object.space);
-
-    // Texts are kept for the life of the program, so those of an object that no slot shows are not even made.
-    std::optional<RegisterEntry> values;
+    const RegisterEntry values = slotValues(object);
+    const std::size_t writtenBefore = written.size();
     left.slots.visit(first, end,
                      [&](int address)
                      {
-                         if (!values)
-                             values = slotValues(object);
-                         overwriteSlot(slots[address], address, *values);
+                         overwriteSlot(slots[address], address, values);
+                         written.push_back({&slots[address], texts.size()});
                      });
+    if (written.size() > writtenBefore)
+        texts.insert(texts.end(), {object.tagname, object.description});
 
     // A flag stays set whichever line names it, so a slot takes each flag from any of the objects that cover it.
     if (object.SwapBytes)
@@ -86,4 +85,18 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
         left.swapWords.visit(first, end, [&](int address) { slots[address].SwapWords = true; });
     if (object.SwapLongs)
         left.swapLongs.visit(first, end, [&](int address) { slots[address].SwapLongs = true; });
+}
+
+/// Texts are kept for the life of the program, so they are made only when it is known which objects have a slot.
+void DefinitionPlacer::fillInTexts()
+{
+    std::vector<InternedText> handles(texts.size());
+    InternedText::internAll(texts, handles);
+    for (const auto& [slot, text] : written)
+    {
+        slot->tagname = handles[text];
+        slot->description = handles[text + 1];
+    }
+    texts.clear();
+    written.clear();
 }

@@ -3,6 +3,8 @@
 #include "map/DefinitionLine.h"
 #include "map/UnvisitedAddresses.h"
 
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
 /// Places the objects of a definition file, with the result of placing one after the other.
@@ -37,8 +39,18 @@ private:
         UnvisitedAddresses swapLongs;
     };
 
+    /// A slot that has got all of its object but the texts.
+    struct WrittenSlot
+    {
+        RegisterEntry* slot;
+        std::size_t text; ///< index of the tagname in `texts`; the description comes after it
+    };
+
     void place(const DefinitionObject& object, LeftOver& left);
+    void fillInTexts();
 
     RegisterMap& map;
     std::vector<DefinitionObject> waiting;
+    std::vector<std::string_view> texts; ///< of the objects that have a slot
+    std::vector<WrittenSlot> written;
 };

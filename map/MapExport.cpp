@@ -2,6 +2,7 @@
 
 #include "files/SafeWrite.h"
 #include "map/PublishedName.h"
+#include "map/WrittenObjects.h"
 #include "text/Characters.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
@@ -17,28 +18,6 @@ void appendLine(std::string& text, std::string_view line)
 {
     text += line;
     text += nativeLineEnd;
-}
-
-bool isExported(const RegisterEntry& slot)
-{
-    return slot.used && isHead(slot);
-}
-
-/// Makes room for every row at once, so that a full map is never copied while its text grows.
-void reserveRows(std::string& text, const RegisterMap& map)
-{
-    constexpr std::size_t headings = 1024;
-    constexpr std::size_t columns = 64; // all columns of a row, padding included, without the texts themselves
-    std::size_t bytes = headings;
-    for (const RegisterSpace space : allSpaces)
-    {
-        for (const RegisterEntry& slot : map.slots(space))
-        {
-            if (isExported(slot))
-                bytes += columns + slot.tagname.view().size() + slot.description.view().size();
-        }
-    }
-    text.reserve(bytes);
 }
 
 std::string countText(const RegisterEntry& slot)
@@ -134,13 +113,13 @@ ExportFormat exportFormatFor(std::string_view path)
 std::string exportCsv(const RegisterMap& map)
 {
     std::string text;
-    reserveRows(text, map);
+    reserveLines(text, map);
     appendLine(text, "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION");
     for (const RegisterSpace space : allSpaces)
     {
         for (const RegisterEntry& slot : map.slots(space))
         {
-            if (isExported(slot))
+            if (isWritten(slot))
                 appendCsvRow(text, space, slot);
         }
     }
@@ -150,7 +129,7 @@ std::string exportCsv(const RegisterMap& map)
 std::string exportTextReport(const RegisterMap& map)
 {
     std::string text;
-    reserveRows(text, map);
+    reserveLines(text, map);
     appendLine(text, "Modbus Register Map");
     appendLine(text, "-------------------");
     for (const RegisterSpace space : allSpaces)
@@ -158,7 +137,7 @@ std::string exportTextReport(const RegisterMap& map)
         appendSectionHeading(text, space);
         for (const RegisterEntry& slot : map.slots(space))
         {
-            if (isExported(slot))
+            if (isWritten(slot))
                 appendReportRow(text, slot);
         }
     }

@@ -1,91 +1,80 @@
 #include "map/TagnameReplace.h"
 
+#include <cstddef>
+#include <new>
+#include <string>
 #include <vector>
 
 namespace
 {
 
-/// Renames slots, some names at a time, because new names are quicker made together than one by one.
-class Renamer
+std::vector<int> unlockedAmong(const RegisterSlots& slots, std::span<const int> addresses)
 {
-public:
-    Renamer(std::string_view wanted, std::string_view substitute) : find(wanted), replacement(substitute) {}
-
-    /// Notes a name for renaming.
-    /// @param tagname  none that is noted already; stays where it is until `finish`
-    void rename(InternedText& tagname)
+    std::vector<int> unlocked;
+    unlocked.reserve(addresses.size());
+    for (const int address : addresses)
     {
-        // The slots of an object follow each other and share one name.
-        if (newNames.empty() || tagname != lastName)
-        {
-            if (newNames.size() == batchSize)
-                finish();
-            lastName = tagname;
-            newNames.push_back(replaceAll(tagname.view(), find, replacement));
-        }
-        noted.push_back({&tagname, newNames.size() - 1});
+        if (RegisterSlots::contains(address) && !slots[address].locked)
+            unlocked.push_back(address);
     }
+    return unlocked;
+}
 
-    /// Gives every noted name its new text.
-    void finish()
+std::size_t replacedSize(std::string_view text, std::string_view find, std::string_view replacement)
+{
+    std::size_t occurrences = 0;
+    for (std::size_t at = text.find(find); at != std::string_view::npos; at = text.find(find, at + find.size()))
+        ++occurrences;
+    return text.size() - occurrences * find.size() + occurrences * replacement.size();
+}
+
+/// Appends a text with every occurrence of `find` replaced. What is put in is not looked at again: a replacement that
+/// holds the find text would never come to an end.
+void appendReplaced(std::string& result, std::string_view text, std::string_view find, std::string_view replacement)
+{
+    for (std::size_t at = text.find(find); at != std::string_view::npos; at = text.find(find))
     {
-        const std::vector<std::string_view> texts(newNames.begin(), newNames.end());
-        std::vector<InternedText> results(texts.size());
-        InternedText::internAll(texts, results);
-        for (const auto& [tagname, index] : noted)
-            *tagname = results[index];
-        newNames.clear();
-        noted.clear();
+        result.append(text.substr(0, at)).append(replacement);
+        text.remove_prefix(at + find.size());
     }
-
-private:
-    /// Few enough for the processor's first caches.
-    static constexpr std::size_t batchSize = 256;
-
-    struct NotedName
-    {
-        InternedText* tagname;
-        std::size_t newName; ///< index in `newNames`
-    };
-
-    std::string_view find;
-    std::string_view replacement;
-    InternedText lastName;
-    std::vector<std::string> newNames;
-    std::vector<NotedName> noted;
-};
+    result.append(text);
+}
 
 } // namespace
 
-std::string replaceAll(std::string_view text, std::string_view find, std::string_view replacement)
-{
-    std::string result;
-    result.reserve(text.size() + replacement.size());
-    if (find.empty())
-        return result.append(text);
-    std::size_t done = 0;
-    for (std::size_t at = text.find(find); at != std::string_view::npos; at = text.find(find, done))
-    {
-        result.append(text, done, at - done).append(replacement);
-        done = at + find.size();
-    }
-    return result.append(text, done);
-}
-
-void replaceInTagnames(RegisterSlots& slots, std::span<const int> addresses, std::string_view find,
+bool replaceInTagnames(RegisterSlots& slots, std::span<const int> addresses, std::string_view find,
                        std::string_view replacement)
+try
 {
-    Renamer renamer(find, replacement);
-    int previous = -1;
-    for (const int address : addresses)
+    if (find.empty())
+        return true;
+    const std::vector<int> renamed = unlockedAmong(slots, addresses);
+
+    // The memory for all names is asked for in one piece. Systems that hand out more memory than they have refuse a
+    // single request that they cannot meet, but end a program that uses up many small ones.
+    std::size_t bytes = 0;
+    for (const int address : renamed)
+        bytes += replacedSize(slots[address].tagname.view(), find, replacement);
+    std::string names;
+    names.reserve(bytes);
+
+    std::vector<std::string_view> parts;
+    parts.reserve(renamed.size());
+    for (const int address : renamed)
     {
-        if (!RegisterSlots::contains(address) || slots[address].locked)
-            continue;
-        // A slot that is listed again goes on from what it was renamed to.
-        if (address <= previous)
-            renamer.finish();
-        previous = address;
-        renamer.rename(slots[address].tagname);
+        const std::size_t begin = names.size();
+        appendReplaced(names, slots[address].tagname.view(), find, replacement);
+        parts.push_back(std::string_view(names).substr(begin));
     }
-    renamer.finish();
+    std::vector<InternedText> tagnames(parts.size());
+    InternedText::internAll(parts, tagnames);
+
+    // Only now, when nothing can fail any more, are the slots changed.
+    for (std::size_t i = 0; i < renamed.size(); ++i)
+        slots[renamed[i]].tagname = tagnames[i];
+    return true;
+}
+catch (const std::bad_alloc&)
+{
+    return false;
 }

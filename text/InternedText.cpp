@@ -63,6 +63,9 @@ public:
         }
     }
 
+    /// @return null when the text has not been interned
+    const void* known(std::string_view utf8) { return slots.empty() ? nullptr : find(slots, hashOf(utf8), utf8).entry; }
+
     /// @param hash  of that text; there has to be room for one more
     const void* intern(std::string_view utf8, std::size_t hash)
     {
@@ -134,9 +137,11 @@ private:
     void addBlock(std::size_t wanted)
     {
         constexpr std::size_t blockSize = 1U << 18U;
-        room = std::max(blockSize, wanted);
-        blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(room));
+        const std::size_t size = std::max(blockSize, wanted);
+        // Memory may run out here; nothing is changed until it is there, so that the texts before stay usable.
+        blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
         next = blocks.back().get();
+        room = size;
     }
 
     std::vector<Slot> slots;
@@ -155,6 +160,15 @@ Pool& pool()
 } // namespace
 
 InternedText::InternedText(std::string_view utf8) : entry(utf8.empty() ? nullptr : pool().intern(storable(utf8))) {}
+
+std::optional<InternedText> InternedText::known(std::string_view utf8)
+{
+    InternedText text;
+    if (utf8.empty())
+        return text;
+    text.entry = pool().known(storable(utf8));
+    return text.empty() ? std::nullopt : std::optional(text);
+}
 
 void InternedText::internAll(std::span<const std::string_view> texts, std::span<InternedText> handles)
 {

@@ -22,7 +22,8 @@ void MainFrame::replaceInTagnames()
     const std::string find = modelText(dialog.findText->GetValue());
     if (find.empty())
         return;
-    ::replaceInTagnames(map.currentSlots(), addresses, find, modelText(dialog.replaceText->GetValue()));
+    if (!::replaceInTagnames(map.currentSlots(), addresses, find, modelText(dialog.replaceText->GetValue())))
+        return;
     document.validate();
     refreshMapView(-1);
 }

@@ -240,7 +240,10 @@ private:
 
     std::string replace()
     {
-        const std::vector<int> rows = randomRows();
+        std::vector<int> rows = randomRows();
+        // No grid reports a row twice, and a name is replaced once.
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
         const char* find = chance.oneOf({"A", "AA", "X", "PLC1_", "", "none"});
         const char* replacement = chance.oneOf({"", "A", "XX", "PLC2_"});
         replaceInTagnames(map.currentSlots(), rows, find, replacement);

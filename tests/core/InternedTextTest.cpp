@@ -102,6 +102,15 @@ TEST(InternedText, EqualTextsHashEqually)
     EXPECT_FALSE(names.contains(InternedText("C")));
 }
 
+TEST(InternedText, LookingATextUpDoesNotKeepIt)
+{
+    EXPECT_EQ(InternedText::known("nobody has made this text"), std::nullopt);
+    EXPECT_EQ(InternedText::known("nobody has made this text"), std::nullopt);
+    const InternedText made("nobody has made this text");
+    EXPECT_EQ(InternedText::known("nobody has made this text"), made);
+    EXPECT_EQ(InternedText::known(""), InternedText());
+}
+
 TEST(InternedText, ManyTextsAtOnceAreTheSameAsOneByOne)
 {
     std::vector<std::string> contents{"known before", "", "twice", "twice", std::string("a\0b", 3)};

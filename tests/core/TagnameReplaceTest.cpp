@@ -1,10 +1,12 @@
 #include "map/TagnameReplace.h"
 
 #include "tests/core/MapBuilder.h"
+#include "tests/core/MemoryLimit.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <numeric>
 
 namespace
 {
@@ -19,6 +21,13 @@ std::unique_ptr<RegisterSlots> named(const std::vector<std::string>& names)
     return slots;
 }
 
+std::string renamed(const std::string& name, std::string_view find, std::string_view replacement)
+{
+    const auto slots = named({name});
+    EXPECT_TRUE(replaceInTagnames(*slots, std::vector{10}, find, replacement));
+    return std::string((*slots)[10].tagname.view());
+}
+
 std::string_view nameAt(const RegisterSlots& slots, int address)
 {
     return slots[address].tagname.view();
@@ -26,39 +35,39 @@ std::string_view nameAt(const RegisterSlots& slots, int address)
 
 } // namespace
 
-TEST(ReplaceAll, MatchesAnywhereAndOften)
+TEST(TagnameReplace, MatchesAnywhereAndOften)
 {
-    EXPECT_EQ(replaceAll("PLC1_SPEED", "PLC1_", "PLC2_"), "PLC2_SPEED");
-    EXPECT_EQ(replaceAll("XPLC1_PLC1_A", "PLC1_", "PLC2_"), "XPLC2_PLC2_A");
+    EXPECT_EQ(renamed("PLC1_SPEED", "PLC1_", "PLC2_"), "PLC2_SPEED");
+    EXPECT_EQ(renamed("XPLC1_PLC1_A", "PLC1_", "PLC2_"), "XPLC2_PLC2_A");
 }
 
-TEST(ReplaceAll, LetterCaseCounts)
+TEST(TagnameReplace, LetterCaseCounts)
 {
-    EXPECT_EQ(replaceAll("Alarm", "a", "p"), "Alprm");
+    EXPECT_EQ(renamed("Alarm", "a", "p"), "Alprm");
 }
 
-TEST(ReplaceAll, OccurrencesDoNotOverlapAndAreNotLookedAtAgain)
+TEST(TagnameReplace, OccurrencesDoNotOverlapAndAreNotLookedAtAgain)
 {
-    EXPECT_EQ(replaceAll("AAAA", "AA", "A"), "AA");
-    EXPECT_EQ(replaceAll("AAA", "AA", "B"), "BA");
+    EXPECT_EQ(renamed("AAAA", "AA", "A"), "AA");
+    EXPECT_EQ(renamed("AAA", "AA", "B"), "BA");
 }
 
-TEST(ReplaceAll, ReplacementHoldingTheFindTextDoesNotGrowForEver)
+TEST(TagnameReplace, ReplacementHoldingTheFindTextDoesNotGrowForEver)
 {
-    EXPECT_EQ(replaceAll("X1X", "X", "XX"), "XX1XX");
+    EXPECT_EQ(renamed("X1X", "X", "XX"), "XX1XX");
 }
 
-TEST(ReplaceAll, EmptyReplacementRemoves)
+TEST(TagnameReplace, EmptyReplacementRemoves)
 {
-    EXPECT_EQ(replaceAll("A_B_C", "_", ""), "ABC");
-    EXPECT_EQ(replaceAll("___", "_", ""), "");
+    EXPECT_EQ(renamed("A_B_C", "_", ""), "ABC");
+    EXPECT_EQ(renamed("___", "_", ""), "");
 }
 
-TEST(ReplaceAll, NothingToFindLeavesTheText)
+TEST(TagnameReplace, NothingToFindLeavesTheName)
 {
-    EXPECT_EQ(replaceAll("Pump", "", "x"), "Pump");
-    EXPECT_EQ(replaceAll("Pump", "Pumps", "x"), "Pump");
-    EXPECT_EQ(replaceAll("", "a", "x"), "");
+    EXPECT_EQ(renamed("Pump", "", "x"), "Pump");
+    EXPECT_EQ(renamed("Pump", "Pumps", "x"), "Pump");
+    EXPECT_EQ(renamed("", "a", "x"), "");
 }
 
 TEST(TagnameReplace, ListedTagnamesAreRenamed)
@@ -144,12 +153,31 @@ TEST(TagnameReplace, TextBeyondAsciiIsTakenAsItIs)
     EXPECT_EQ(nameAt(*slots, 10), "Kuehler_Öl");
 }
 
-TEST(TagnameReplace, SlotListedAgainIsRenamedAgain)
+TEST(TagnameReplace, SlotListedAgainIsRenamedOnce)
 {
     const auto slots = named({"A", "A"});
     replaceInTagnames(*slots, std::vector{10, 11, 11, 10, 10}, "A", "AA");
-    EXPECT_EQ(nameAt(*slots, 10), "AAAAAAAA");
-    EXPECT_EQ(nameAt(*slots, 11), "AAAA");
+    EXPECT_EQ(nameAt(*slots, 10), "AA");
+    EXPECT_EQ(nameAt(*slots, 11), "AA");
+}
+
+TEST(TagnameReplace, NamesThatNeedMoreMemoryThanThereIsChangeNothing)
+{
+    if (!memoryCanRunOut)
+        GTEST_SKIP();
+    const auto slots = drawnSpace(0, std::string(20'000, 'A'));
+    const auto before = std::make_unique<RegisterSlots>(*slots);
+    std::vector<int> addresses(20'000);
+    std::iota(addresses.begin(), addresses.end(), 0);
+    const std::string long16Kilobytes(1U << 14U, 'x');
+    {
+        const MemoryLimit limit(std::size_t{1} << 26U);
+        EXPECT_FALSE(replaceInTagnames(*slots, addresses, "A", long16Kilobytes));
+    }
+    EXPECT_TRUE(*slots == *before);
+    EXPECT_EQ(InternedText::known(long16Kilobytes), std::nullopt);
+    EXPECT_TRUE(replaceInTagnames(*slots, addresses, "A", "B"));
+    EXPECT_EQ(nameAt(*slots, 19'999), "B");
 }
 
 TEST(TagnameReplace, EveryOneOfManyDifferentNamesIsRenamed)
