@@ -190,8 +190,18 @@ void ProgramUnderTest::clickButton(const Control& window, const std::string& nam
 
 void ProgramUnderTest::clickTool(const std::string& tooltip)
 {
-    click(waitForControl(tooltip, [&](const Control& control)
-                         { return control.role() == "push button" && control.description() == tooltip; }));
+    const Control::Test fits = [&](const Control& control)
+    { return control.role() == "push button" && control.description() == tooltip; };
+    Control leftmost = waitForControl(tooltip, fits);
+    for (const Control& window : windowsOf(bus, process.id()))
+    {
+        for (const Control& tool : window.findAll(fits))
+        {
+            if (settledBounds(tool).x < settledBounds(leftmost).x)
+                leftmost = tool;
+        }
+    }
+    click(leftmost);
     screen.parkPointer();
 }
 
