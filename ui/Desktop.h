@@ -7,7 +7,8 @@ class wxWindow;
 namespace desktop
 {
 
-/// Asks the desktop to draw its own parts (scroll bars, menus, message boxes) in their dark variant.
+/// Asks the desktop to draw its own parts (scroll bars, menus, message boxes) in their dark variant, and check boxes
+/// with a frame that is seen on the dark grounds of our windows.
 /// To be called once, before the first window is created.
 void preferDark();
 

@@ -8,7 +8,8 @@ namespace desktop
 
 void preferDark()
 {
-    // The toolkit draws the desktop's own parts of this system in their light variant only.
+    // The toolkit draws the desktop's own parts of this system in their light variant only; its check boxes are white
+    // and need no frame.
 }
 
 void keepFocusOnClick(wxWindow& control)

@@ -6,6 +6,7 @@
 #include "ui/PanelControls.h"
 #include "ui/SourceBrowser.h"
 #include "ui/SpaceButtons.h"
+#include "ui/grid/EmptyGridHint.h"
 #include "ui/grid/MapGridTable.h"
 
 #include <wx/bmpbuttn.h>
@@ -34,6 +35,7 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
     // The grid owns its table; the table answers from the document, which outlives both.
     mapTable = new MapGridTable(map);
     panelControls::showTable(*mapGrid, mapTable);
+    showWhileEmpty(*mapGrid, [] { return "Copy tags with Ctrl+C, paste here with Ctrl+V"; });
     sourceBrowser =
         new SourceBrowser(splitter, document.database, [this](const Command& command) { command.run(*this); });
     showSourcePanel(sourceBrowser);

@@ -5,6 +5,7 @@
 #include "ui/SourceTreeItem.h"
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
+#include "ui/grid/EmptyGridHint.h"
 #include "ui/grid/GridScrolling.h"
 #include "ui/grid/GridSelection.h"
 #include "ui/grid/TagGridTable.h"
@@ -34,6 +35,7 @@ SourceBrowser::SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, C
       table(new TagGridTable(database)), searchIndex(database.tags)
 {
     panelControls::showTable(*sourceGrid, table);
+    showWhileEmpty(*sourceGrid, [this] { return emptyListText(); });
     createGroupBoxes();
     createTree();
     refreshTags();
@@ -107,6 +109,11 @@ void SourceBrowser::refreshTags()
 {
     table->show(filterTags(database.tags, searchIndex, currentFilter()));
     goToFirstRow(*sourceGrid);
+}
+
+wxString SourceBrowser::emptyListText() const
+{
+    return database.tags.count() == 0 ? "The database holds no tags" : "No tags match the filter";
 }
 
 std::vector<int> SourceBrowser::selectedTags() const

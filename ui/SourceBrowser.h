@@ -48,6 +48,7 @@ private:
     bool isUnfolded(wxTreeItemId node) const;
     TagFilter currentFilter() const;
     void refreshTags();
+    wxString emptyListText() const;
 
     const TagDatabase& database;
     CommandRunner runCommand;

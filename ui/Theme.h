@@ -22,6 +22,7 @@ inline constexpr Rgb filterText{208, 208, 208};
 inline constexpr Rgb columnHeaderText{240, 240, 240};
 inline constexpr Rgb columnHeaderBackground{0, 64, 128};
 inline constexpr Rgb cellText{192, 192, 192};
+inline constexpr Rgb hint{150, 150, 150};
 inline constexpr Rgb selection{51, 153, 255};
 inline constexpr Rgb selectionText{0, 0, 0}; ///< light texts could hardly be read on this blue
 inline constexpr Rgb groupFlag{255, 217, 0};

@@ -1,0 +1,47 @@
+// What the desktop draws by itself is seen on the dark grounds of the windows.
+
+#include "tests/ui/ScreenPicture.h"
+#include "tests/ui/SourceSide.h"
+#include "tests/ui/UiTest.h"
+#include "ui/SettingsDialog.h"
+
+#include <gtest/gtest.h>
+#include <wx/checkbox.h>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Contrast from which a part of a control is told from its ground.
+constexpr double visible = 3;
+
+/// The contrast of a check box without its text.
+double contrastOfBox(const wxCheckBox& box)
+{
+    const int side = std::min(box.GetClientSize().GetWidth(), box.GetClientSize().GetHeight());
+    return ScreenPicture(box, wxRect(0, 0, side, side)).contrast();
+}
+
+} // namespace
+
+TEST(DarkLook, GroupCheckBoxIsSeenWhileItIsNotTicked)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    const wxCheckBox& box = *groupBox(editor, "SET");
+    ASSERT_FALSE(box.IsChecked());
+    EXPECT_TRUE(waitUntil([&] { return contrastOfBox(box) >= visible; })) << contrastOfBox(box);
+}
+
+TEST(DarkLook, CheckBoxOfADialogIsSeenWhileItIsNotTicked)
+{
+    SettingsDialog dialog(nullptr);
+    const wxCheckBox& box = *dialog.intSwapBytes;
+    runModal(dialog,
+             [&]
+             {
+                 EXPECT_TRUE(waitUntil([&] { return contrastOfBox(box) >= visible; })) << contrastOfBox(box);
+                 pressKey(WXK_ESCAPE);
+             });
+}
