@@ -13,6 +13,7 @@ std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
     if (!RegisterSlots::contains(rowAddress))
         return std::nullopt;
     const RegisterEntry& slot = slots[rowAddress];
+    // Unsigned on purpose: an object that begins before the space gives a number far outside it.
     const std::uint32_t head = static_cast<std::uint32_t>(rowAddress) + slot.startAddress - slot.address;
     if (!RegisterSlots::contains(head))
         return std::nullopt;
@@ -45,6 +46,7 @@ void copyRegisters(RegisterMap& map, std::span<const int> addresses)
 {
     if (addresses.empty())
         return;
+    // Overlapping objects of a file can list the same registers over and over.
     const auto useful = addresses.first(std::min(addresses.size(), clipboardCapacity));
     map.clipboard.clear();
     map.clipboard.reserve(useful.size());
@@ -96,6 +98,8 @@ bool appendRegisters(RegisterMap& map, int rowAddress)
 {
     if (map.clipboard.empty() || !RegisterSlots::contains(rowAddress))
         return false;
+    // Looks wrong and is required: the first free slot is taken even when it is locked, and what fits before the next
+    // lock goes in without a word where a paste would have refused.
     const int target = firstFreeSlotFrom(map.currentSlots(), rowAddress);
     if (map.clipboard.size() > static_cast<std::size_t>(registersPerSpace - target))
         return false;

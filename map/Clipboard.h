@@ -43,7 +43,7 @@ std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedA
 /// @param target  0..65535
 void insertClipboard(RegisterMap& map, int target);
 
-/// Inserts the clipboard in front of the object to which the slot at `rowAddress` says that it belongs.
+/// Inserts the clipboard before the object to which the slot at `rowAddress` says that it belongs.
 ///
 /// A slot vacated by a move still names its old head, and the paste lands there.
 /// @param rowAddress  address of the first selected row, or 0 when no row is shown; outside 0..65535 nothing happens

@@ -9,8 +9,8 @@ namespace
 /// @param head  address of its head, above `place`
 void moveObjectUp(RegisterSlots& slots, int head, int place)
 {
-    const std::int64_t behind = std::int64_t{head} + slots[head].registerCount;
-    const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
+    const std::int64_t afterObject = std::int64_t{head} + slots[head].registerCount;
+    const int end = static_cast<int>(std::min<std::int64_t>(afterObject, registersPerSpace));
     for (int from = head, to = place; from < end; ++from, ++to)
     {
         RegisterEntry& moved = slots[to];
@@ -29,6 +29,7 @@ void closeGaps(RegisterSlots& slots, int place, int last)
         const RegisterEntry& slot = slots[address];
         if (!slot.used || !isHead(slot))
             continue;
+        // Read before the move, which clears the slot; a count from a file may reach beyond the space.
         const std::uint32_t length = slot.registerCount;
         moveObjectUp(slots, address, place);
         if (length > static_cast<std::uint32_t>(lastAddress - place))
@@ -49,6 +50,7 @@ CompressResult compressRegisters(RegisterSlots& slots, std::span<const int> addr
     const auto end = slots.begin() + addresses.back() + 1;
     if (std::any_of(first, end, [](const RegisterEntry& slot) { return slot.locked; }))
         return CompressResult::Locked;
+    // Objects before the first gap stand where they belong already.
     const auto gap = std::find_if(first, end, [](const RegisterEntry& slot) { return !slot.used; });
     if (gap == end)
         return CompressResult::Unchanged;

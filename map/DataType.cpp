@@ -9,6 +9,7 @@ constexpr std::array<std::string_view, allDataTypes.size()> names{"INT16", "INT3
 
 } // namespace
 
+// "UNKOWN" is spelt so on purpose: the text is required as it stands, in files as well.
 std::string_view typeName(DataType type)
 {
     const auto code = static_cast<std::size_t>(type);
@@ -22,7 +23,7 @@ DataType typeFromName(std::string_view name)
         if (typeName(type) == name)
             return type;
     }
-    return DataType::Int16;
+    return DataType::Int16; // an unknown name is no reason to drop a line or refuse an edit
 }
 
 std::int32_t registerCountFor(std::string_view name, std::string_view lengthText)

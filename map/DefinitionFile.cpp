@@ -27,7 +27,7 @@ struct SplitLine
     std::size_t count = 0;
 };
 
-/// Splits at every comma; an empty field behind a final comma is not counted.
+/// Splits at every comma; an empty field after a final comma is not counted.
 SplitLine splitLine(std::string_view line)
 {
     SplitLine split;
@@ -45,6 +45,7 @@ std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const T
 {
     const std::optional<InternedText> name = InternedText::known(tagnameField.substr(0, tagnameField.find('.')));
     const std::optional<int> index = name ? tags.find(*name) : std::nullopt;
+    // An empty name finds the first unused record, which sizes nothing.
     if (!index || *index >= tags.count())
         return 1;
     return registersForString(tags[*index].size);
@@ -54,6 +55,7 @@ void readLine(std::string_view line, DefinitionPlacer& placer, const TagTable& t
 {
     const SplitLine split = splitLine(line);
     const auto& f = split.fields;
+    // What the short forms do not say is taken as unlocked and sound.
     DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], "UNLOCKED", "OK"};
     std::string computedCount;
     if (split.count == fullForm)
@@ -92,8 +94,11 @@ void appendOrder(std::string& text, const RegisterEntry& head)
         text += "NONE";
 }
 
+/// Texts go out as they stand, neither quoted nor refused: a comma in a description makes ten fields of nine, and the
+/// next start drops the line. Kept so: the format has no quotes.
 void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& head)
 {
+    // For people: the reader passes it over and validates anew.
     const bool valid = head.typeValid && head.writeValid && head.tagIndex != -1;
     text += spaceKeyword(space);
     text += ',';

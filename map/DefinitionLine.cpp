@@ -23,11 +23,13 @@ int DefinitionObject::firstAddress() const
 
 int DefinitionObject::endAddress() const
 {
+    // The count of a file may be 2147483647, so the sum needs more than 32 bits.
     return static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
 }
 
 std::optional<DefinitionObject> describedObject(const DefinitionFields& fields)
 {
+    // The write permission travels as a suffix of the name, so any other name with a dot says something unknown.
     const bool write = fields.tagname.ends_with(writeSuffix);
     if (contains(fields.tagname, ".") && !write)
         return std::nullopt;

@@ -9,8 +9,8 @@ namespace
 /// How far an insertion gets and what it displaces, found without changing anything.
 struct InsertionPlan
 {
-    int writtenEnd;   ///< one behind the last address that gets a new register
-    int displacedEnd; ///< one behind the last slot that is pushed or pushed into; `writtenEnd` when none is
+    int writtenEnd;   ///< one after the last address that gets a new register
+    int displacedEnd; ///< one after the last slot that is pushed or pushed into; `writtenEnd` when none is
 };
 
 /// The free slot that lets the run at `address` grow by one; nothing when a lock or the end of the space is before it.
@@ -25,7 +25,7 @@ std::optional<int> nextFreeSlot(const RegisterSlots& slots, int address)
 }
 
 /// Follows the writing of up to `count` registers: each one either takes a free slot as it finds it, or takes the place
-/// of a used one and so uses up the next free slot behind the displaced run, which always reaches to `displacedEnd`.
+/// of a used one and so uses up the next free slot after the displaced run, which always reaches to `displacedEnd`.
 InsertionPlan planInsertion(const RegisterSlots& slots, int target, int count)
 {
     InsertionPlan plan{target, target};
@@ -48,7 +48,7 @@ InsertionPlan planInsertion(const RegisterSlots& slots, int target, int count)
     return plan;
 }
 
-/// Gathers the used slots in front of `displacedEnd` at its end, in their order, until they reach down to `writtenEnd`.
+/// Gathers the used slots before `displacedEnd` at its end, in their order, until they reach down to `writtenEnd`.
 void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
 {
     int from = plan.displacedEnd - 1;

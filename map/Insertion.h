@@ -9,7 +9,7 @@
 /// Used slots in the way are pushed down one place for each register, over the next free slots, keeping their order.
 /// Room ends where pushing would meet a locked slot or the end of the space. A free slot that nothing has to be pushed
 /// into counts as room even when it is locked.
-/// Room for n registers in front of a run of m costs n + m.
+/// Room for n registers before a run of m costs n + m.
 /// @param target  0..65535; any other address has no room
 /// @param count   registers wanted; below 1 makes none
 /// @return registers that there is room for; the slots from `target` on still hold what stood there before and have to

@@ -55,7 +55,7 @@ std::size_t characterCount(std::string_view utf8)
     return utf8.size() - static_cast<std::size_t>(continued);
 }
 
-/// Pads what stands behind `start` with blanks to a width in characters.
+/// Pads what comes after `start` with blanks to a width in characters.
 void padColumn(std::string& text, std::size_t start, std::size_t width)
 {
     const std::size_t characters = characterCount(std::string_view(text).substr(start));

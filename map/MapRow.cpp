@@ -13,6 +13,7 @@ MapCell& cell(MapRow& row, MapColumn column)
 
 MapCell marker(const RegisterEntry& slot)
 {
+    // A lock hides the error mark: the user has said that this register is to stay as it is.
     if (slot.locked)
         return {"L", MapTone::Lock};
     if (hasError(slot))

@@ -13,9 +13,10 @@ std::string_view viewModeLabel(ViewMode mode)
     case ViewMode::Compressed:
         return "COMPRESSED";
     }
-    return "NONE";
+    return "NONE"; // no mode leads here, but the label has a text for any value
 }
 
+// Not in the order of their values: from the view at start it goes COMPRESSED, EXPANDED, ALL.
 ViewMode nextViewMode(ViewMode mode)
 {
     switch (mode)
@@ -51,6 +52,7 @@ std::vector<int> shownAddresses(const RegisterSlots& slots, ViewMode mode)
 
 std::string statusText(int errorCount)
 {
+    // The leading blanks are part of both texts.
     if (errorCount > 0)
         return "  WARNING : " + std::to_string(errorCount) + " error(s) found in register map";
     return "  No errors";

@@ -43,6 +43,7 @@ RegisterEntry entryOf(const EditedRegister& edited)
 
 } // namespace
 
+// Walks slot by slot and does not trust `startAddress`: overlapping lines of a file leave registers without a head.
 std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress)
 {
     if (!RegisterSlots::contains(rowAddress))
@@ -62,19 +63,20 @@ RegisterEntry editedEntry(const RegisterSlots& slots, int head)
 EditRoom editRoom(const RegisterSlots& slots, int head)
 {
     const std::int64_t count = registersTaken(slots[head]);
-    const auto behind = static_cast<int>(std::min<std::int64_t>(head + count, registersPerSpace));
+    const auto afterEntry = static_cast<int>(std::min<std::int64_t>(head + count, registersPerSpace));
 
-    int firstUsed = behind;
+    int firstUsed = afterEntry;
     while (firstUsed <= lastAddress && !slots[firstUsed].used)
         ++firstUsed;
 
+    // Free registers count wherever they are before the lock: moving the objects between them closes those gaps.
     int freeBeforeLock = 0;
-    for (int address = behind; address <= lastAddress && !slots[address].locked; ++address)
+    for (int address = afterEntry; address <= lastAddress && !slots[address].locked; ++address)
     {
         if (!slots[address].used)
             ++freeBeforeLock;
     }
-    return {saturated(count + firstUsed - behind), saturated(count + freeBeforeLock)};
+    return {saturated(count + firstUsed - afterEntry), saturated(count + freeBeforeLock)};
 }
 
 SpaceCheck checkSpace(std::string_view lengthText, EditRoom room)
@@ -88,6 +90,7 @@ SpaceCheck checkSpace(std::string_view lengthText, EditRoom room)
 std::optional<std::int32_t> parseLength(std::string_view text)
 {
     text = withoutLeadingBlanks(text);
+    // The library's reader knows a minus only.
     if (text.starts_with('+') && !text.starts_with("+-"))
         text.remove_prefix(1);
     std::int32_t length = 0;
@@ -116,6 +119,7 @@ std::optional<FieldVisibility> visibilityFor(std::string_view typeName)
         return FieldVisibility{.lengthField = false, .byteOrder = true, .SwapBytes = true};
     if (typeName == "INT32" || typeName == "FLOAT")
         return FieldVisibility{.lengthField = false, .byteOrder = true, .SwapBytes = true, .SwapWords = true};
+    // Looks like an oversight and is required: after a STRING the field stays, without its label.
     if (typeName == "DOUBLE")
         return FieldVisibility{
             .lengthField = std::nullopt, .byteOrder = true, .SwapBytes = true, .SwapWords = true, .SwapLongs = true};
@@ -129,6 +133,7 @@ void applyEdit(RegisterMap& map, int head, const EditedRegister& edited)
     RegisterSlots& slots = map.currentSlots();
     if (!RegisterSlots::contains(head) || slots[head].locked)
         return;
+    // The old object goes first, locked continuations included, so that its own registers are room for the new one.
     clearSlots(slots, head, registersTaken(slots[head]));
     map.placeObject(map.currentSpace, head, entryOf(edited), makeRoom(slots, head, edited.registerCount));
 }

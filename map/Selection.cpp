@@ -17,10 +17,11 @@ std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const in
     {
         if (addresses.size() > longestSelection - registersPerSpace)
             break;
+        // A slot that a move has vacated is free, but as the former part of an object it adds nothing either.
         if (!RegisterSlots::contains(row) || !isHead(slots[row]))
             continue;
-        const std::int64_t behind = std::int64_t{row} + registersTaken(slots[row]);
-        const int end = static_cast<int>(std::min<std::int64_t>(behind, registersPerSpace));
+        const std::int64_t afterObject = std::int64_t{row} + registersTaken(slots[row]);
+        const int end = static_cast<int>(std::min<std::int64_t>(afterObject, registersPerSpace));
         for (int address = row; address < end; ++address)
             addresses.push_back(address);
     }

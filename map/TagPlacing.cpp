@@ -55,6 +55,7 @@ std::vector<RegisterEntry> copySourceTags(const TagTable& tags, std::span<const 
                                           const DefaultByteOrder& byteOrder)
 {
     std::vector<RegisterEntry> registers;
+    // One entry for all tags: a tag of unknown type takes over the shape of the one before it.
     RegisterEntry entry;
     entry.used = true;
     shapeAsInteger(entry, byteOrder);

@@ -62,6 +62,7 @@ void validateSlot(RegisterEntry& slot, const TagTable& tags, TagLookup& lookup)
 
 } // namespace
 
+// Locks, overlaps, spaces and byte order are not looked at: a map may be wrong in ways that only its user can judge.
 void validateMap(RegisterMap& map, const TagTable& tags)
 {
     TagLookup lookup(tags);
