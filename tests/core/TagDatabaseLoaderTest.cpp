@@ -34,42 +34,42 @@ const std::string plant = R"({
 }
 )";
 
-void expectPlantGroups(const std::vector<TagGroup>& groups)
+/// Flag, type, description and mask of each group.
+std::vector<std::string> groupsOf(const TagDatabase& database)
 {
-    ASSERT_EQ(groups.size(), 2U);
-    EXPECT_EQ(groups[0].flag, "ALM");
-    EXPECT_EQ(groups[0].type, "x");
-    EXPECT_EQ(groups[0].description, "Alarms");
-    EXPECT_EQ(groups[0].mask, 1U);
-    EXPECT_EQ(groups[1].flag, "TOP");
-    EXPECT_EQ(groups[1].mask, 0x80000000U);
+    std::vector<std::string> groups;
+    for (const TagGroup& group : database.groups)
+        groups.push_back(group.flag + "|" + group.type + "|" + group.description + "|" + std::to_string(group.mask));
+    return groups;
 }
 
-void expectPlantTags(const TagTable& tags)
+/// Name, description, type code, size, elements, attributes and groups of each tag.
+std::vector<std::string> tagsOf(const TagDatabase& database)
 {
-    ASSERT_EQ(tags.count(), 3);
-    EXPECT_EQ(tags[0].name.view(), "PMP1_SPEED");
-    EXPECT_EQ(tags[0].description.view(), "Speed");
-    EXPECT_EQ(tags[0].type, TagType::Numeric);
-    EXPECT_EQ(tags[0].size, 4);
-    EXPECT_EQ(tags[0].elements, 2);
-    EXPECT_EQ(tags[0].attributes, 3);
-    EXPECT_EQ(tags[0].groups, 1U);
-    EXPECT_EQ(tags[1].type, TagType::String);
-    EXPECT_EQ(tags[1].size, 20);
-    EXPECT_EQ(tags[2].type, TagType::Integer);
-    EXPECT_EQ(tags[2].attributes, -1);
-    EXPECT_EQ(tags[2].groups, 0x80000001U);
-    EXPECT_EQ(tags.find(InternedText("PMP2_NAME")), 1);
+    std::vector<std::string> tags;
+    for (int index = 0; index < database.tags.count(); ++index)
+    {
+        const TagRecord& tag = database.tags[index];
+        std::string text = std::string(tag.name.view()) + "|" + std::string(tag.description.view());
+        for (const std::int64_t number :
+             {std::int64_t{static_cast<int>(tag.type)}, std::int64_t{tag.size}, std::int64_t{tag.elements},
+              std::int64_t{tag.attributes}, std::int64_t{tag.groups}})
+            text += "|" + std::to_string(number);
+        tags.push_back(text);
+    }
+    return tags;
 }
 
 void expectPlant(const Load& load)
 {
+    using Texts = std::vector<std::string>;
     EXPECT_EQ(load.result, LoadResult::Loaded);
-    expectPlantGroups(load.database.groups);
+    EXPECT_EQ(groupsOf(load.database), (Texts{"ALM|x|Alarms|1", "TOP|z|Topmost|2147483648"}));
     EXPECT_EQ(nodesOf(load.database),
-              (std::vector<std::string>{"Plant||-1", "Pumps|PMP|0", "Pump 1|PMP1|1", "Pump 2|PMP2|1", "Tanks|TNK|0"}));
-    expectPlantTags(load.database.tags);
+              (Texts{"Plant||-1", "Pumps|PMP|0", "Pump 1|PMP1|1", "Pump 2|PMP2|1", "Tanks|TNK|0"}));
+    EXPECT_EQ(tagsOf(load.database), (Texts{"PMP1_SPEED|Speed|1|4|2|3|1", "PMP2_NAME|Name|2|20|1|0|0",
+                                            "TNK_LEVEL|Level|0|2|1|-1|2147483649"}));
+    EXPECT_EQ(load.database.tags.find(InternedText("PMP2_NAME")), 1);
 }
 
 void expectNothing(const TagDatabase& database)
