@@ -3,7 +3,6 @@
 #include "files/StrayNames.h"
 #include "files/posix/Strays.h"
 
-#include <cerrno>
 #include <string>
 #include <utility>
 
@@ -31,7 +30,7 @@ bool FreshFile::takeName()
     {
         if (linkAs(finalName))
             return true;
-        hasOwnName = errno == EEXIST && linkAs(ownName);
+        hasOwnName = linkAs(ownName);
     }
     if (!hasOwnName || calls.rename(ownName.c_str(), finalName.c_str()) != 0)
         return false;

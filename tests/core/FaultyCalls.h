@@ -30,17 +30,20 @@ public:
     /// Told of every call before it is made, whether it is to fail or not.
     std::function<void(const std::string& call)> onCall = [](const std::string&) {};
 
-    /// The names of all calls in their order. Some tell more: "open unnamed" and "open named" make a file,
+    /// The names of all calls in their order. Some tell more: "open unnamed" and "open named" make a fresh file,
     /// "fsync file" and "fsync folder" tell what is flushed.
     std::vector<std::string> made;
 
     /// What was flushed, in this order.
     std::vector<ino_t> flushed;
 
+    /// True when the call was made.
+    bool has(const char* call) const { return std::find(made.begin(), made.end(), call) != made.end(); }
+
     int open(const char* path, int flags, mode_t mode) override
     {
         const bool unnamed = (flags & O_TMPFILE) == O_TMPFILE;
-        const bool named = (flags & O_CREAT) != 0;
+        const bool named = (flags & O_EXCL) != 0;
         const char* const name = unnamed ? "open unnamed" : named ? "open named" : "open";
         return fails(name) ? -1 : FileSystemCalls::open(path, flags, mode);
     }

@@ -86,6 +86,7 @@ TEST_F(SafeWriteStrays, FreshFileHasNoNameWhileItIsWrittenWhereTheFileSystemCan)
     calls.onCall = [&](const std::string& call) { named = call == "fsync file" ? strays() : named; };
     EXPECT_TRUE(writeFileSafely(file, "new", calls));
     EXPECT_EQ(named, takesUnnamedFiles() ? 0 : 1);
+    EXPECT_FALSE(calls.has("unlink"));
 }
 
 TEST_F(SafeWriteStrays, StrayIsClearedWhereItsTargetIsRewrittenInPlace)
@@ -154,6 +155,7 @@ TEST_F(SafeWriteStrays, FreshFileIsInUseWhileItIsWritten)
     };
     EXPECT_TRUE(writeFileSafely(file, "new", calls));
     EXPECT_TRUE(nested);
+    EXPECT_TRUE(calls.has("open named"));
     EXPECT_EQ(contents(file), "new");
 }
 
