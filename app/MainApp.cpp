@@ -33,6 +33,7 @@ bool MainApp::OnInit()
     wxApp::OnInit();
     wxInitAllImageHandlers();
     desktop::preferDark();
+    desktop::drawControlsPlainly();
     const std::optional<wxString> suitePath = findInstallation();
     if (!suitePath)
     {

@@ -1,5 +1,7 @@
 #pragma once
 
+class wxComboBox;
+class wxString;
 class wxTextCtrl;
 class wxWindow;
 
@@ -11,6 +13,19 @@ namespace desktop
 /// with a frame that is seen on the dark grounds of our windows.
 /// To be called once, before the first window is created.
 void preferDark();
+
+/// Shows which control has the keyboard, and check boxes that are not ticked, plainly on the dark background.
+/// To be called once, before the first window is created.
+void drawControlsPlainly();
+
+/// Shows the focus in a window from the start, and not only after the first key.
+void showFocusAtOnce(wxWindow& window);
+
+/// Makes the Tab key stop once at a combo box.
+void keepOneTabStop(wxComboBox& box);
+
+/// Gives a control the name by which screen readers call it, where no text of its own does.
+void setAccessibleName(wxWindow& control, const wxString& name);
 
 /// Lets a click on a control leave the keyboard focus where it is, so that the keys go on reaching the grid.
 /// The control is still reached with the Tab key.

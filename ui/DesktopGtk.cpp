@@ -1,14 +1,31 @@
 #include "ui/Desktop.h"
 
 #include <gtk/gtk.h>
+#include <wx/combobox.h>
 #include <wx/textctrl.h>
 
 namespace
 {
 
-/// The dark variant of GTK 3's own theme (3.24) frames a check box in a grey darker than the ground it stands on, and
-/// the toolkit takes its filling away when it gives the control a background.
-constexpr const char* checkBoxStyle = "check:not(:checked):not(:disabled) { border-color: rgb(160,160,160); }";
+/// Adds rules to those by which GTK draws every window.
+/// @param rules  in GTK's kind of CSS
+void addStyle(const char* rules)
+{
+    GtkCssProvider* const provider = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(provider, rules, -1, nullptr);
+    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(provider),
+                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(provider);
+}
+
+/// Takes the buttons inside a control out of the order of the Tab key.
+void leaveOutButtons(GtkWidget* part, gpointer)
+{
+    if (GTK_IS_BUTTON(part))
+        gtk_widget_set_can_focus(part, FALSE);
+    else if (GTK_IS_CONTAINER(part))
+        gtk_container_forall(GTK_CONTAINER(part), leaveOutButtons, nullptr);
+}
 
 } // namespace
 
@@ -18,11 +35,37 @@ namespace desktop
 void preferDark()
 {
     g_object_set(gtk_settings_get_default(), "gtk-application-prefer-dark-theme", TRUE, nullptr);
-    GtkCssProvider* const style = gtk_css_provider_new();
-    gtk_css_provider_load_from_data(style, checkBoxStyle, -1, nullptr);
-    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(style),
-                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-    g_object_unref(style);
+}
+
+void drawControlsPlainly()
+{
+    // The dark theme of GTK 3.24 marks the focus by one dotted line in grey, which the yellow and the coloured buttons
+    // do not show at all, and the edge of a check box by a grey that is darker than the background.
+    addStyle("button:focus, checkbutton:focus { outline: 2px solid currentColor; outline-offset: -2px; }"
+             "check:not(:checked) { border-color: #b0b0b0; }");
+}
+
+void showFocusAtOnce(wxWindow& window)
+{
+    // GTK 3.24 hides it when the window appears.
+    g_signal_connect_after(window.GetHandle(), "map",
+                           G_CALLBACK(+[](GtkWidget* shown) { gtk_window_set_focus_visible(GTK_WINDOW(shown), TRUE); }),
+                           nullptr);
+}
+
+void keepOneTabStop(wxComboBox& box)
+{
+    // GTK 3.24 stops at the arrow of the box too, where the keys only do what they do in the text.
+    leaveOutButtons(box.GetHandle(), nullptr);
+}
+
+void setAccessibleName(wxWindow& control, const wxString& name)
+{
+    GtkWidget* widget = control.GetHandle();
+    // The text of a combo box is a control of its own, and the one that has the keyboard.
+    if (GTK_IS_COMBO_BOX(widget))
+        widget = gtk_bin_get_child(GTK_BIN(widget));
+    atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
 }
 
 void keepFocusOnClick(wxWindow& control)

@@ -12,6 +12,26 @@ void preferDark()
     // and need no frame.
 }
 
+void drawControlsPlainly()
+{
+    // Controls of this system do.
+}
+
+void showFocusAtOnce(wxWindow&)
+{
+    // The user's settings of this system decide.
+}
+
+void keepOneTabStop(wxComboBox&)
+{
+    // This system stops once.
+}
+
+void setAccessibleName(wxWindow&, const wxString&)
+{
+    // Screen readers of this system take the label in front of a control.
+}
+
 void keepFocusOnClick(wxWindow& control)
 {
     // Buttons of this system take the focus when they are pressed; the Tab key may give it to them.

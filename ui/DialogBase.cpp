@@ -15,8 +15,9 @@
 namespace
 {
 
-/// Pixels beside the text of a button.
+/// Pixels beside the text of a button, and above and below it.
 constexpr int buttonPadding = 12;
+constexpr int buttonHeightPadding = 6;
 
 /// Pixels between the border of a field and its text.
 constexpr int fieldPadding = 10;
@@ -53,13 +54,14 @@ wxStaticText* DialogBase::createLabel(const wxString& text)
     return label;
 }
 
-wxTextCtrl* DialogBase::createField(int width)
+wxTextCtrl* DialogBase::createField(const wxString& name, int width)
 {
     auto* const field = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxBORDER_SIMPLE);
     field->SetFont(theme::regular(9));
     field->SetForegroundColour(theme::colour(theme::entryText));
     field->SetBackgroundColour(theme::colour(theme::entryBackground));
     field->SetMinSize(wxSize(width, desktop::fieldHeight(*field)));
+    desktop::setAccessibleName(*field, name);
     return field;
 }
 
@@ -82,20 +84,31 @@ wxCheckBox* DialogBase::createCheckBox(const wxString& text)
     return box;
 }
 
+wxCheckBox* DialogBase::createBareCheckBox(const wxString& name)
+{
+    wxCheckBox* const box = createCheckBox(wxString());
+    desktop::setAccessibleName(*box, name);
+    return box;
+}
+
 wxButton* DialogBase::createButton(wxWindowID id, const wxString& text)
 {
-    auto* const button = new wxButton(this, id, text, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
+    auto* const button = new wxButton(this, id, wxString(), wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
     button->SetFont(theme::regular(9));
     button->SetForegroundColour(theme::colour(theme::buttonText));
     button->SetBackgroundColour(theme::buttonBackground());
+    setButtonText(*button, text);
     return button;
 }
 
 void DialogBase::setButtonText(wxButton& button, const wxString& text)
 {
     button.SetLabel(text);
-    const int needed = button.GetTextExtent(text).GetWidth() + 2 * button.FromDIP(buttonPadding);
-    button.SetMinSize(wxSize(std::max(needed, wxButton::GetDefaultSize(&button).GetWidth()), -1));
+    // Toolkit 3.2 measures a button of GTK before it has its font, so that larger texts would be cut.
+    const wxSize padding = 2 * button.FromDIP(wxSize(buttonPadding, buttonHeightPadding));
+    wxSize size = button.GetTextExtent(text) + padding;
+    size.SetWidth(std::max(size.GetWidth(), wxButton::GetDefaultSize(&button).GetWidth()));
+    button.SetMinSize(size);
 }
 
 wxButton* DialogBase::createHelpButton()
@@ -105,6 +118,7 @@ wxButton* DialogBase::createHelpButton()
     button->SetFont(theme::helpButton());
     button->SetForegroundColour(theme::colour(theme::helpButtonText));
     button->SetBackgroundColour(theme::colour(theme::helpButtonBackground));
+    button->SetToolTip("Shows what the swaps do");
     button->Bind(wxEVT_BUTTON, &DialogBase::OnByteSwapHelp, this);
     return button;
 }
@@ -126,6 +140,7 @@ wxSizer* DialogBase::layEnding(wxButton* confirm)
 
 void DialogBase::lay(wxSizer* content)
 {
+    desktop::showFocusAtOnce(*this);
     SetSizer(content);
     Layout();
     content->Fit(this);

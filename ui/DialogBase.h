@@ -35,15 +35,19 @@ protected:
     wxStaticText* createLabel(const wxString& text);
 
     /// An empty single-line text field.
+    /// @param name   what screen readers call it: the label beside it
     /// @param width  pixels that it takes at least
-    wxTextCtrl* createField(int width);
+    wxTextCtrl* createField(const wxString& name, int width);
 
     /// Pixels of a field that shows so many characters at once, capital letters too, in the font in use.
     int fieldWidthFor(int characters) const;
 
     /// A check box, clear at first.
-    /// @param text  may be empty
-    wxCheckBox* createCheckBox(const wxString& text = wxString());
+    wxCheckBox* createCheckBox(const wxString& text);
+
+    /// A check box without a text of its own, clear at first.
+    /// @param name  what screen readers call it
+    wxCheckBox* createBareCheckBox(const wxString& name);
 
     /// A button that ends the dialog.
     wxButton* createButton(wxWindowID id, const wxString& text);

@@ -8,6 +8,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
+#include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/valnum.h>
@@ -37,10 +38,12 @@ RegisterEditor::RegisterEditor(wxWindow* parent, wxWindowID id, const wxString& 
         typeBox->Append(toolkitText(typeName(type)));
     lengthField->SetValidator(wxIntegerValidator<int>());
 
-    // The dialog stays as wide as it is from here on, so it has to have room for the longest text at once.
-    const int longest = statusLabel->GetTextExtent(movingText).GetWidth();
-    statusLabel->SetMinSize(wxSize(longest + FromDIP(statusMargin), -1));
+    // The dialog stays as large as it is from here on, so it has to have room for all rows and the longest text.
+    const wxSize longest = statusLabel->GetTextExtent(movingText);
+    statusLabel->SetMinSize(longest + wxSize(FromDIP(statusMargin), 0));
     Fit();
+    // Toolkit 3.2 fits a dialog of GTK once more when it is shown, to the rows that are seen then.
+    GetSizer()->SetMinSize(GetClientSize());
     CentreOnParent();
 
     // Only a STRING shows them; DOUBLE leaves the field as the type before it had it.

@@ -1,5 +1,6 @@
 #include "ui/RegisterEditorBase.h"
 
+#include "ui/Desktop.h"
 #include "ui/Theme.h"
 
 #include <wx/button.h>
@@ -54,7 +55,7 @@ wxSizer* RegisterEditorBase::layFields()
     };
 
     addLabel("Tagname");
-    tagnameField = createField(fieldWidthFor(textLength));
+    tagnameField = createField("Tagname", fieldWidthFor(textLength));
     tagnameField->SetToolTip("a name of the tag database, without a comma or a line break");
     sizer->Add(tagnameField, wide);
 
@@ -63,19 +64,19 @@ wxSizer* RegisterEditorBase::layFields()
     sizer->Add(typeBox, flags);
 
     lengthLabel = addLabel("Length");
-    lengthField = createField(FromDIP(typeWidth));
+    lengthField = createField("Length", FromDIP(typeWidth));
     lengthField->SetToolTip("registers, 2 characters each");
     sizer->Add(lengthField, flags);
 
     addLabel("Write");
-    writeBox = createCheckBox();
+    writeBox = createBareCheckBox("Write");
     sizer->Add(writeBox, flags);
 
     byteOrderLabel = addLabel("Byte Order");
     sizer->Add(layByteOrder(), flags);
 
     addLabel("Description");
-    descriptionField = createField(fieldWidthFor(textLength));
+    descriptionField = createField("Description", fieldWidthFor(textLength));
     descriptionField->SetToolTip("no comma and no line break, or the line is not read again");
     sizer->Add(descriptionField, wide);
     return sizer;
@@ -88,6 +89,8 @@ void RegisterEditorBase::createTypeBox()
     typeBox->SetFont(theme::regular(9));
     typeBox->SetForegroundColour(theme::colour(theme::entryText));
     typeBox->SetBackgroundColour(theme::colour(theme::entryBackground));
+    desktop::keepOneTabStop(*typeBox);
+    desktop::setAccessibleName(*typeBox, "Type");
 }
 
 wxSizer* RegisterEditorBase::layByteOrder()

@@ -7,10 +7,12 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <algorithm>
+
 namespace
 {
 
-/// Pixels at which the explanation is wrapped.
+/// Pixels at which the explanation is wrapped; with larger texts the heading is wider.
 constexpr int explanationWidth = 300;
 
 /// Columns of the byte-order grid: the kind of object, bytes, words, longs.
@@ -23,8 +25,9 @@ SettingsDialogBase::SettingsDialogBase(wxWindow* parent, wxWindowID id, const wx
     : DialogBase(parent, id, title, position, size)
 {
     auto* const content = new wxBoxSizer(wxVERTICAL);
-    content->Add(layHeading(), 0, wxEXPAND);
-    content->Add(createExplanation(), 0, wxALL, FromDIP(border));
+    wxSizer* const heading = layHeading();
+    content->Add(heading, 0, wxEXPAND);
+    content->Add(createExplanation(heading->GetMinSize().GetWidth()), 0, wxALL, FromDIP(border));
     content->Add(layByteOrder(), 0, wxEXPAND | wxTOP | wxBOTTOM, FromDIP(border));
     okButton = createButton(wxID_OK, "Ok");
     content->Add(layEnding(okButton), 0, wxEXPAND);
@@ -47,7 +50,7 @@ wxSizer* SettingsDialogBase::layHeading()
     return sizer;
 }
 
-wxStaticText* SettingsDialogBase::createExplanation()
+wxStaticText* SettingsDialogBase::createExplanation(int leastWidth)
 {
     auto* const text =
         new wxStaticText(this, wxID_ANY,
@@ -55,7 +58,7 @@ wxStaticText* SettingsDialogBase::createExplanation()
                          "objects copied from the source database to the modbus registers");
     text->SetFont(theme::semibold(9).Italic());
     text->SetForegroundColour(theme::colour(theme::entryText));
-    text->Wrap(FromDIP(explanationWidth));
+    text->Wrap(std::max(FromDIP(explanationWidth), leastWidth));
     return text;
 }
 
@@ -69,7 +72,7 @@ wxSizer* SettingsDialogBase::layByteOrder()
         return control;
     };
     const auto addLabel = [this, add](const wxString& text) { return add(createLabel(text)); };
-    const auto addBox = [this, add] { return add(createCheckBox()); };
+    const auto addBox = [this, add](const wxString& name) { return add(createBareCheckBox(name)); };
 
     sizer->AddSpacer(0);
     addLabel("Swap");
@@ -82,14 +85,14 @@ wxSizer* SettingsDialogBase::layByteOrder()
     longsHeading = addLabel("Longs");
 
     addLabel("Float");
-    floatSwapBytes = addBox();
-    floatSwapWords = addBox();
-    floatSwapLongs = addBox();
+    floatSwapBytes = addBox("Float Bytes");
+    floatSwapWords = addBox("Float Words");
+    floatSwapLongs = addBox("Float Longs");
 
     addLabel("Integer");
-    intSwapBytes = addBox();
-    intSwapWords = addBox();
-    intSwapLongs = addBox();
+    intSwapBytes = addBox("Integer Bytes");
+    intSwapWords = addBox("Integer Words");
+    intSwapLongs = addBox("Integer Longs");
 
     for (wxWindow* const hidden : {static_cast<wxWindow*>(longsHeading), static_cast<wxWindow*>(floatSwapLongs),
                                    static_cast<wxWindow*>(intSwapWords), static_cast<wxWindow*>(intSwapLongs)})

@@ -28,6 +28,6 @@ protected:
 
 private:
     wxSizer* layHeading();
-    wxStaticText* createExplanation();
+    wxStaticText* createExplanation(int leastWidth);
     wxSizer* layByteOrder();
 };

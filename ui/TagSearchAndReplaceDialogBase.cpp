@@ -35,9 +35,9 @@ TagSearchAndReplaceDialogBase::TagSearchAndReplaceDialogBase(wxWindow* parent, w
 wxSizer* TagSearchAndReplaceDialogBase::layFields()
 {
     findLabel = createLabel("Find in Tagname");
-    findText = createField(fieldWidthFor(textLength));
+    findText = createField(findLabel->GetLabel(), fieldWidthFor(textLength));
     replaceLabel = createLabel("Replace with");
-    replaceText = createField(fieldWidthFor(textLength));
+    replaceText = createField(replaceLabel->GetLabel(), fieldWidthFor(textLength));
 
     auto* const sizer = new wxGridSizer(2);
     const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));

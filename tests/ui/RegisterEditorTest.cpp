@@ -1,4 +1,5 @@
 #include "tests/ui/EditorUnderTest.h"
+#include "tests/ui/LargerText.h"
 #include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
@@ -113,21 +114,59 @@ TEST(RegisterEditor, HelpClosesWithItsCloseBox)
         });
 }
 
-TEST(RegisterEditor, NothingIsCutOffForAnyTypeOrStatus)
+TEST(RegisterEditor, NothingIsCutOffForAnyTypeOrStatusHoweverLargeTheTextIs)
 {
-    EditorUnderTest editor(DataType::String, 3, {3, 6});
+    for (const double factor : {1.0, 1.25, 1.5, 2.0})
+    {
+        const LargerText larger(factor);
+        EditorUnderTest editor(DataType::String, 3, {3, 6});
+        editor.explore(
+            [&]
+            {
+                for (const char* const type : {"DOUBLE", "INT16", "INT32", "FLOAT", "STRING"})
+                {
+                    editor.typeType(type);
+                    expectCleanLayout(editor);
+                }
+                for (const char* const length : {"3", "6", "7"})
+                {
+                    editor.typeLength(length);
+                    expectCleanLayout(editor);
+                }
+            });
+    }
+}
+
+TEST(RegisterEditor, TabGoesThroughTheControlsOfADoubleInReadingOrder)
+{
+    EditorUnderTest editor(DataType::Double, 4);
     editor.explore(
         [&]
         {
-            for (const char* const type : {"DOUBLE", "INT16", "INT32", "FLOAT", "STRING"})
-            {
-                editor.typeType(type);
-                expectCleanLayout(editor);
-            }
-            for (const char* const length : {"3", "6", "7"})
-            {
-                editor.typeLength(length);
-                expectCleanLayout(editor);
-            }
+            expectTabReaches({editor.typeBox, editor.writeBox, editor.swapBytesBox, editor.swapWordsBox,
+                              editor.swapLongsBox, editor.byteSwapHelpButton, editor.descriptionField, editor.okButton,
+                              editor.cancelButton, editor.tagnameField});
+            expectTabReaches({editor.cancelButton, editor.okButton, editor.descriptionField, editor.byteSwapHelpButton,
+                              editor.swapLongsBox, editor.swapWordsBox, editor.swapBytesBox, editor.writeBox,
+                              editor.typeBox, editor.tagnameField},
+                             wxMOD_SHIFT);
+        });
+}
+
+TEST(RegisterEditor, TabPassesHiddenControlsOver)
+{
+    EditorUnderTest text(DataType::String, 9, {5, 6});
+    text.explore(
+        [&]
+        {
+            expectTabReaches({text.typeBox, text.lengthField, text.writeBox, text.descriptionField, text.cancelButton,
+                              text.tagnameField});
+        });
+    EditorUnderTest number(DataType::Int16);
+    number.explore(
+        [&]
+        {
+            expectTabReaches({number.typeBox, number.writeBox, number.swapBytesBox, number.byteSwapHelpButton,
+                              number.descriptionField, number.okButton, number.cancelButton, number.tagnameField});
         });
 }

@@ -1,5 +1,6 @@
 #include "ui/SettingsDialog.h"
 
+#include "tests/ui/LargerText.h"
 #include "tests/ui/UiTest.h"
 
 #include <gtest/gtest.h>
@@ -137,8 +138,27 @@ TEST(SettingsDialog, HelpButtonShowsThePictureAndComesBack)
     EXPECT_EQ(result, wxID_OK);
 }
 
-TEST(SettingsDialog, NothingIsCutOff)
+TEST(SettingsDialog, TabGoesThroughTheVisibleControlsInReadingOrder)
 {
     SettingsDialog dialog(nullptr);
-    cancelDialog([&] { expectCleanLayout(dialog); }, dialog);
+    cancelDialog(
+        [&]
+        {
+            expectTabReaches({dialog.floatSwapWords, dialog.intSwapBytes, dialog.okButton, dialog.cancelButton,
+                              dialog.byteSwapHelpButton, dialog.floatSwapBytes});
+            expectTabReaches({dialog.byteSwapHelpButton, dialog.cancelButton, dialog.okButton, dialog.intSwapBytes,
+                              dialog.floatSwapWords, dialog.floatSwapBytes},
+                             wxMOD_SHIFT);
+        },
+        dialog);
+}
+
+TEST(SettingsDialog, NothingIsCutOffHoweverLargeTheTextIs)
+{
+    for (const double factor : {1.0, 1.25, 1.5, 2.0})
+    {
+        const LargerText larger(factor);
+        SettingsDialog dialog(nullptr);
+        cancelDialog([&] { expectCleanLayout(dialog); }, dialog);
+    }
 }

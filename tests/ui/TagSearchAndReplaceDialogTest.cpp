@@ -1,5 +1,6 @@
 #include "ui/TagSearchAndReplaceDialog.h"
 
+#include "tests/ui/LargerText.h"
 #include "tests/ui/UiTest.h"
 
 #include <gtest/gtest.h>
@@ -88,13 +89,9 @@ TEST(TagSearchAndReplaceDialog, TabGoesThroughFieldsAndButtonsInReadingOrder)
     runModal(dialog,
              [&]
              {
-                 for (const wxWindow* const next :
-                      {static_cast<wxWindow*>(dialog.replaceText), static_cast<wxWindow*>(dialog.replaceButton),
-                       static_cast<wxWindow*>(dialog.cancelButton), static_cast<wxWindow*>(dialog.findText)})
-                 {
-                     pressKey(WXK_TAB);
-                     EXPECT_TRUE(waitUntil([&] { return next->HasFocus(); })) << next->GetLabel();
-                 }
+                 expectTabReaches({dialog.replaceText, dialog.replaceButton, dialog.cancelButton, dialog.findText});
+                 expectTabReaches({dialog.cancelButton, dialog.replaceButton, dialog.replaceText, dialog.findText},
+                                  wxMOD_SHIFT);
                  pressKey(WXK_ESCAPE);
              });
 }
@@ -108,13 +105,17 @@ TEST(TagSearchAndReplaceDialog, LongTextsAreTakenWhole)
     EXPECT_EQ(dialog.findText->GetValue(), text);
 }
 
-TEST(TagSearchAndReplaceDialog, NothingIsCutOff)
+TEST(TagSearchAndReplaceDialog, NothingIsCutOffHoweverLargeTheTextIs)
 {
-    Dialog dialog;
-    runModal(dialog,
-             [&]
-             {
-                 expectCleanLayout(dialog);
-                 pressKey(WXK_ESCAPE);
-             });
+    for (const double factor : {1.0, 1.25, 1.5, 2.0})
+    {
+        const LargerText larger(factor);
+        Dialog dialog;
+        runModal(dialog,
+                 [&]
+                 {
+                     expectCleanLayout(dialog);
+                     pressKey(WXK_ESCAPE);
+                 });
+    }
 }

@@ -68,6 +68,13 @@ int labelWidth(const wxWindow& control)
     return width;
 }
 
+/// Pixels of height that the text of a control needs, 0 when it shows none.
+int textHeight(const wxWindow& control)
+{
+    const bool showsText = !control.GetLabel().empty() || dynamic_cast<const wxTextEntry*>(&control);
+    return showsText ? control.GetCharHeight() : 0;
+}
+
 } // namespace
 
 bool waitUntil(const std::function<bool()>& condition)
@@ -126,12 +133,22 @@ void expectCleanLayout(const wxWindow& window)
             continue;
         EXPECT_TRUE(inside.Contains(child->GetRect())) << describe(*child) << " is cut off";
         EXPECT_GE(child->GetSize().GetWidth(), labelWidth(*child)) << describe(*child) << " is clipped";
+        EXPECT_GE(child->GetSize().GetHeight(), textHeight(*child)) << describe(*child) << " is too low";
         for (const wxWindow* const other : visible)
         {
             EXPECT_FALSE(other->GetRect().Intersects(child->GetRect()))
                 << describe(*other) << " overlaps " << describe(*child);
         }
         visible.push_back(child);
+    }
+}
+
+void expectTabReaches(const std::vector<wxWindow*>& controls, int modifiers)
+{
+    for (const wxWindow* const next : controls)
+    {
+        pressKey(WXK_TAB, modifiers);
+        ASSERT_TRUE(waitUntil([next] { return next->HasFocus(); })) << describe(*next) << " is not reached";
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class wxTextCtrl;
 
@@ -34,8 +35,13 @@ void typeOver(wxTextCtrl& field, const std::string& text);
 /// Closes a window the way its close box does.
 void pressCloseBox(wxWindow& window);
 
-/// Fails the test where a visible control is cut off, overlaps another one, or is narrower than its label.
+/// Fails the test where a visible control is cut off, overlaps another one, or is smaller than its text.
 void expectCleanLayout(const wxWindow& window);
+
+/// Presses the Tab key once for each of the controls and fails the test when it does not reach them one after the
+/// other.
+/// @param modifiers  wxMOD_SHIFT for going backwards
+void expectTabReaches(const std::vector<wxWindow*>& controls, int modifiers = 0);
 
 /// Works the next modal dialog as its user would: the steps run once it is shown and has the keyboard.
 ///

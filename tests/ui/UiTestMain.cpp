@@ -40,6 +40,7 @@ public:
         SetExitOnFrameDelete(false);
         wxInitAllImageHandlers();
         desktop::preferDark();
+        desktop::drawControlsPlainly();
         return true;
     }
 
