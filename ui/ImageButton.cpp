@@ -17,11 +17,15 @@ wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const 
     auto* const button = new wxBitmapButton(parent, wxID_ANY, namedImage(name), wxDefaultPosition, wxDefaultSize,
                                             wxBORDER_NONE | wxBU_EXACTFIT);
     button->SetBackgroundColour(theme::colour(theme::headerBackground));
+    // The frame that shows the focus is drawn in it.
+    button->SetForegroundColour(theme::colour(theme::contentText));
     button->SetBitmapPressed(namedImage(name + "_pressed"));
     if (hovering)
         button->SetBitmapCurrent(namedImage(name + "_hover"));
     button->SetMinSize(button->FromDIP(wxSize(buttonSide, buttonSide)));
     button->SetToolTip(tooltip);
+    // A picture says nothing to a screen reader.
+    desktop::setAccessibleName(*button, tooltip);
     desktop::keepFocusOnClick(*button);
     return button;
 }

@@ -6,6 +6,7 @@
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
 #include "ui/grid/EmptyGridHint.h"
+#include "ui/grid/GridMenu.h"
 #include "ui/grid/GridScrolling.h"
 #include "ui/grid/GridSelection.h"
 #include "ui/grid/TagGridTable.h"
@@ -183,5 +184,12 @@ void SourceBrowser::OnSourceGridKeyDown(wxKeyEvent& event)
 void SourceBrowser::OnSourceGridRightDown(wxMouseEvent& event)
 {
     // The entries' events go up to the main window, as those of the other menus do.
-    sourceGrid->GetGridWindow()->PopupMenu(contextMenu(CommandGrid::Tags).get(), event.GetPosition());
+    popUpMenuUnderMouse(*sourceGrid, *contextMenu(CommandGrid::Tags), event.GetPosition());
+}
+
+void SourceBrowser::OnSourceGridContextMenu(wxContextMenuEvent& event)
+{
+    // The mouse has opened the menu when its button went down; what is left are the keys, which name no place.
+    if (event.GetPosition() == wxDefaultPosition)
+        popUpMenuAtCursor(*sourceGrid, *contextMenu(CommandGrid::Tags));
 }

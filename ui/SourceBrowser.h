@@ -40,6 +40,7 @@ protected:
     void OnSourceFilterKeyDown(wxKeyEvent& event) override;
     void OnSourceGridKeyDown(wxKeyEvent& event) override;
     void OnSourceGridRightDown(wxMouseEvent& event) override;
+    void OnSourceGridContextMenu(wxContextMenuEvent& event) override;
 
 private:
     void createGroupBoxes();

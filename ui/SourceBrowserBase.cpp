@@ -83,6 +83,7 @@ wxPanel* SourceBrowserBase::createDatabaseRow()
     sourceFilter->SetFont(theme::regular(10));
     panelControls::dress(*sourceFilter, theme::filterText, theme::contentBackground);
     sourceFilter->SetToolTip("Tagname and Description filter");
+    desktop::setAccessibleName(*sourceFilter, "Filter");
     sourceFilter->SetMinSize(wxSize(FromDIP(filterWidth), desktop::fieldHeight(*sourceFilter)));
     filter->Add(sourceFilter, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
     sizer.Add(filter, 1, wxALIGN_CENTRE_VERTICAL);
@@ -113,6 +114,7 @@ void SourceBrowserBase::connectEvents()
     groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
     sourceGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &SourceBrowserBase::OnSourceGridRightDown, this);
+    sourceGrid->Bind(wxEVT_CONTEXT_MENU, &SourceBrowserBase::OnSourceGridContextMenu, this);
 }
 
 void SourceBrowserBase::orderTabStops()
@@ -157,6 +159,11 @@ void SourceBrowserBase::OnSourceGridKeyDown(wxKeyEvent& event)
 }
 
 void SourceBrowserBase::OnSourceGridRightDown(wxMouseEvent& event)
+{
+    event.Skip();
+}
+
+void SourceBrowserBase::OnSourceGridContextMenu(wxContextMenuEvent& event)
 {
     event.Skip();
 }

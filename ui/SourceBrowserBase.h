@@ -36,6 +36,7 @@ protected:
     virtual void OnSourceFilterKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridKeyDown(wxKeyEvent& event);
     virtual void OnSourceGridRightDown(wxMouseEvent& event);
+    virtual void OnSourceGridContextMenu(wxContextMenuEvent& event);
 
     wxTextCtrl* sourceFilter = nullptr;
     wxTreeCtrl* sourceTree = nullptr;

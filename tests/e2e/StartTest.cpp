@@ -46,6 +46,23 @@ TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnE
     EXPECT_EQ(program.errorOutput(), "");
 }
 
+TEST_F(Start, MainWindowsButtonsAndFilterHaveNamesForScreenReaders)
+{
+    ProgramUnderTest& program = start({});
+    program.clickButton(program.waitForMessage(noDatabase), "OK");
+    program.waitForMainWindow();
+    const Control window = program.waitForWindow("Modbus Map Editor");
+    for (const char* const tooltip : {"Export map to text file", "Show Coil Registers", "Paste - ctrl v"})
+    {
+        EXPECT_TRUE(window.find([&](const Control& control)
+                                { return control.role() == "push button" && control.name() == tooltip; }))
+            << tooltip;
+    }
+    EXPECT_TRUE(
+        window.find([](const Control& control) { return control.role() == "text" && control.name() == "Filter"; }));
+    leaveWithoutQuestion();
+}
+
 /// A start with a command line that cannot be used.
 class UnusableCommandLine : public EndToEnd
 {

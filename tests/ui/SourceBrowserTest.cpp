@@ -118,9 +118,31 @@ TEST(SourceBrowser, MenuOfTheTagGridHasOneEntryThatCopies)
     EditorWindow& editor = *openEditor(files.startup());
     editor.sourceGrid->SelectRow(0);
     const MenuScript menu(editor, "Copy");
-    rightClickOn(*editor.sourceGrid->GetGridWindow(), 100, 100);
+    rightClickOn(*editor.sourceGrid->GetGridWindow(), 100, 10);
     EXPECT_TRUE(waitUntil([&] { return clipboardNames(editor) == Names({"PUMP_RUN"}); }));
     EXPECT_EQ(menu.shownEntries(), Names({"6012 Copy|Ctrl+C"}));
+}
+
+TEST(SourceBrowser, RightClickOnATagThatIsNotSelectedSelectsItFirst)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.sourceGrid->SelectRow(0);
+    const MenuScript menu(editor, "Copy");
+    rightClickOn(*editor.sourceGrid->GetGridWindow(), 100, editor.sourceGrid->GetRowSize(0) * 3 + 5);
+    EXPECT_TRUE(waitUntil([&] { return !editor.registerMap().clipboard.empty(); }));
+    EXPECT_EQ(clipboardNames(editor).front(), "PUMP_NAME");
+}
+
+TEST(SourceBrowser, ShiftF10OpensTheMenuOnTheSelection)
+{
+    const PlantFiles files("");
+    EditorWindow& editor = *openEditor(files.startup());
+    focusTagGrid(editor);
+    editor.sourceGrid->SelectRow(0);
+    const MenuScript menu(editor, "Copy");
+    pressKey(WXK_F10, wxMOD_SHIFT);
+    EXPECT_TRUE(waitUntil([&] { return clipboardNames(editor) == Names({"PUMP_RUN"}); }));
 }
 
 TEST(SourceBrowser, CopyingWithoutASelectionEmptiesTheClipboard)
