@@ -1,10 +1,10 @@
 #include "map/DefinitionPlacer.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <ranges>
 
 namespace
 {
@@ -56,8 +56,8 @@ void DefinitionPlacer::placeAll()
 {
     // From the last line to the first: a later line wins, so what it covers need not be looked at again.
     std::array<LeftOver, spaceCount> left;
-    for (const DefinitionObject& object : std::views::reverse(waiting))
-        place(object, left[static_cast<std::size_t>(object.space)]);
+    std::for_each(waiting.rbegin(), waiting.rend(),
+                  [&](const DefinitionObject& object) { place(object, left[static_cast<std::size_t>(object.space)]); });
     fillInTexts();
     waiting.clear();
 }
