@@ -56,7 +56,7 @@ void copyTheAlarmTag(EditorWindow& editor)
     tabTo(*editor.groupFilters->GetChildren().front());
     pressKey(WXK_SPACE);
     ASSERT_TRUE(waitUntil([&] { return editor.sourceGrid->GetNumberRows() == 1; }));
-    tabTo(*editor.sourceGrid->GetGridWindow());
+    tabTo(*editor.sourceGrid);
     pressKey('A', wxMOD_CONTROL);
     pressKey('C', wxMOD_CONTROL);
     ASSERT_TRUE(waitUntil([&] { return editor.registerMap().clipboard.size() == 1; }));
@@ -66,7 +66,7 @@ void pasteIntoCoils(EditorWindow& editor)
 {
     pressButton(editor, "Show Coil Registers");
     ASSERT_TRUE(waitUntil([&] { return editor.registerMap().currentSpace == RegisterSpace::Coil; }));
-    tabTo(*editor.mapGrid->GetGridWindow());
+    tabTo(*editor.mapGrid);
     pressKey('V', wxMOD_CONTROL);
     ASSERT_TRUE(waitUntil([&] { return editor.mapGrid->GetNumberRows() == 1; }));
     EXPECT_EQ(coil(editor, 0).tagname.view(), "TANK_HIGH");
@@ -74,7 +74,7 @@ void pasteIntoCoils(EditorWindow& editor)
 
 void lockAndUnlock(EditorWindow& editor)
 {
-    tabTo(*editor.mapGrid->GetGridWindow());
+    tabTo(*editor.mapGrid);
     pressKey('A', wxMOD_CONTROL);
     pressButton(editor, "Toggle register lock");
     ASSERT_TRUE(waitUntil([&] { return coil(editor, 0).locked; }));
@@ -100,7 +100,7 @@ void editTheDescription(EditorWindow& editor)
 
 void renameTheTag(EditorWindow& editor)
 {
-    tabTo(*editor.mapGrid->GetGridWindow());
+    tabTo(*editor.mapGrid);
     pressKey('A', wxMOD_CONTROL);
     const DialogScript script(
         [](wxDialog&)
