@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <regex>
+#include <cctype>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -20,6 +20,15 @@ std::vector<fs::path> filesIn(const fs::path& folder)
     for (const fs::directory_entry& entry : fs::directory_iterator(folder))
         files.push_back(entry.path());
     return files;
+}
+
+/// The name of a file with "#" in place of every digit: what stays the same at any time of any day.
+std::string shapeOf(const fs::path& file)
+{
+    std::string name = file.filename().string();
+    std::replace_if(
+        name.begin(), name.end(), [](unsigned char c) { return std::isdigit(c) != 0; }, '#');
+    return name;
 }
 
 /// Makes a file that looks so many minutes old.
@@ -38,7 +47,7 @@ TEST(RescueCopy, LiesUnderTheNameOfTheWorkAndTheTime)
     EXPECT_TRUE(copy.file().empty());
     ASSERT_TRUE(copy.write("/plants/north.csv", "the map"));
     EXPECT_EQ(filesIn(folder / "state" / "rescue"), std::vector{copy.file()});
-    EXPECT_TRUE(std::regex_match(copy.file().filename().string(), std::regex("north-\\d{8}-\\d{6}\\.csv")));
+    EXPECT_EQ(shapeOf(copy.file()), "north-########-######.csv");
     EXPECT_EQ(readFile(copy.file()), "the map");
 }
 
@@ -47,7 +56,7 @@ TEST(RescueCopy, OfWorkWithoutANameIsCalledMap)
     const TempFolder folder;
     RescueCopy copy(folder / "rescue");
     ASSERT_TRUE(copy.write("", "the map"));
-    EXPECT_TRUE(std::regex_match(copy.file().filename().string(), std::regex("map-\\d{8}-\\d{6}")));
+    EXPECT_EQ(shapeOf(copy.file()), "map-########-######");
 }
 
 TEST(RescueCopy, AndItsFolderAreTheUsersAlone)
