@@ -26,8 +26,8 @@ bool take(std::string_view& text, char c)
 
 std::string_view takeDigits(std::string_view& text)
 {
-    const auto* const end = std::ranges::find_if_not(text, isDigit);
-    const std::string_view taken(text.begin(), end);
+    const char* const end = std::find_if_not(text.data(), text.data() + text.size(), isDigit);
+    const std::string_view taken(text.data(), end);
     text.remove_prefix(taken.size());
     return taken;
 }

@@ -53,6 +53,12 @@ bool mayBeOutOfRange(std::string_view number)
     return number.size() > safeLength || number.find_first_of("eE") != std::string_view::npos;
 }
 
+/// The beginning of a text, up to the first character that ends it.
+std::string_view runUpTo(std::string_view text, bool (*endsRun)(char))
+{
+    return {text.data(), std::find_if(text.data(), text.data() + text.size(), endsRun)};
+}
+
 /// A control character as an escape. It may stand in the files as it is, but not in strict JSON.
 void appendEscaped(std::string& target, char controlCharacter)
 {
@@ -130,8 +136,7 @@ JsonToken JsonScanner::takeString()
     for (;;)
     {
         // Nearly all of a string is plain; it is taken a run at a time.
-        const auto* const start = text.begin() + static_cast<std::ptrdiff_t>(position);
-        const std::string_view plain(start, std::find_if(start, text.end(), isSpecialInString));
+        const std::string_view plain = runUpTo(text.substr(position), isSpecialInString);
         strict += plain;
         position += plain.size();
         if (position == text.size())
@@ -161,8 +166,7 @@ bool JsonScanner::takeEscape()
 
 JsonToken JsonScanner::takeWord()
 {
-    const auto* const start = text.begin() + static_cast<std::ptrdiff_t>(position);
-    const std::string_view word(start, std::find_if(start, text.end(), endsWord));
+    const std::string_view word = runUpTo(text.substr(position), endsWord);
     position += word.size();
     strict = literalOf(word);
     if (!strict.empty())
