@@ -5,6 +5,10 @@
 #include <charconv>
 #include <optional>
 
+// A character beyond the first 65,536 is written as two escapes, the halves of its pair in UTF-16: "\uD83D\uDE00". Half
+// a pair alone is no character and has no UTF-8, so a text that holds one is refused as a whole rather than shown with
+// a hole in it.
+
 namespace
 {
 
@@ -38,6 +42,7 @@ std::size_t escapeLength(std::string_view text)
         return 0;
     if (!isHighSurrogate(*unit))
         return unitLength;
+    // The second half has to be an escape too, right after the first.
     const auto second = escapedUnit(text.substr(unitLength));
     return second && isLowSurrogate(*second) ? 2 * unitLength : 0;
 }

@@ -8,6 +8,11 @@
 #include <cmath>
 #include <optional>
 
+// Numbers of the files serve two ends. As a text (a mask, a name that somebody wrote without quotes) they have to look
+// as a person would write them: `decimalText`. As a count or a set of bits only their low 32 bits are kept:
+// `wholeNumberBits`. Both stay exact for whole numbers of any length, which a floating-point number is up to 2^53 only,
+// and take the way over one just for numbers with a fraction or an exponent.
+
 namespace
 {
 
@@ -62,7 +67,8 @@ std::optional<std::uint32_t> lowBitsOfDigits(std::string_view text)
 /// Reads all of a number without a sign.
 std::optional<double> unsignedValue(std::string_view text)
 {
-    // The library would also take "inf", "nan" and a minus.
+    // The library would also take "inf", "nan" and a minus. A number that begins with its point is taken: a text is
+    // read here too, which need not be a number of JSON.
     if (text.empty() || (text.front() != '.' && !isDigit(text.front())))
         return std::nullopt;
     // In the "C" locale whatever the user's language, which std::strtod would follow.
@@ -87,10 +93,12 @@ bool isJsonNumber(std::string_view text)
 {
     take(text, '-');
     const std::string_view whole = takeDigits(text);
+    // Zeros in front are refused, as the standard does: C would take 010 for eight.
     if (whole.empty() || (whole.size() > 1 && whole.front() == '0'))
         return false;
     if (take(text, '.') && takeDigits(text).empty())
         return false;
+    // An exponent may have leading zeros: "1e05" is a number.
     return takeExponent(text) && text.empty();
 }
 
@@ -127,8 +135,10 @@ std::uint32_t wholeNumberBits(std::string_view text)
     auto bits = lowBitsOfDigits(text);
     if (!bits)
     {
+        // A fraction is dropped, an exponent worked out: 1.5e2 is 150.
         if (const auto value = unsignedValue(text))
             bits = lowBits(*value);
     }
+    // The low bits of -n are those of 0 - n, however many bits n had before it was cut.
     return negative ? 0U - bits.value_or(0) : bits.value_or(0);
 }

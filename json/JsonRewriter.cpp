@@ -2,6 +2,17 @@
 
 #include <utility>
 
+// The way through the places, an array above and an object below. A closing bracket may end each of them but Colon: it
+// completes the value that its opening bracket began.
+//
+//   "[" --> ArrayStart --value--> AfterValue --","--> ArrayNext
+//                                  ^                       |
+//                                  +--------- value -------+
+//
+//   "{" --> ObjectStart --key--> Colon --":"--> MemberValue --value--> AfterValue --","--> ObjectNext
+//                                  ^                                                           |
+//                                  +--------------------------- key ---------------------------+
+//
 // What may stand where, and what is written for it ("-": the text is refused):
 //
 //   place         value         string           comma               colon          closing bracket
@@ -22,6 +33,7 @@
 
 bool JsonRewriter::take(JsonToken token, std::string_view tokenText)
 {
+    // Whether it follows a string is asked while it is taken, so the note about the token before goes only afterwards.
     const bool taken = takeAt(token, tokenText);
     afterString = token == JsonToken::String;
     return taken;
@@ -60,7 +72,9 @@ bool JsonRewriter::takeString(std::string_view content)
 {
     if (afterString)
     {
-        strict.pop_back(); // the quote that closed the string before
+        // The place is that after a value or a key already, and stays: only the quote that closed the string before has
+        // to go.
+        strict.pop_back();
     }
     else if (place == Place::ObjectStart || place == Place::ObjectNext)
     {
@@ -93,6 +107,7 @@ bool JsonRewriter::openBracket(char bracket)
     if (!beginValue())
         return false;
     strict += bracket;
+    // What is around the new bracket needs no other note: when it closes, a value is complete there.
     openBrackets += bracket;
     place = bracket == '[' ? Place::ArrayStart : Place::ObjectStart;
     return true;
@@ -101,6 +116,7 @@ bool JsonRewriter::openBracket(char bracket)
 bool JsonRewriter::closeBracket(char bracket)
 {
     const char opening = bracket == ']' ? '[' : '{';
+    // A key without its colon is the one thing that no missing value explains.
     if (!openBrackets.ends_with(opening) || place == Place::Colon)
         return false;
     // After a comma nothing is written here: that is how one comma too many is dropped.
@@ -112,14 +128,15 @@ bool JsonRewriter::closeBracket(char bracket)
     return true;
 }
 
-/// A comma where a value is missing stands for the value null as well. Where a member is missing there is no name that
-/// null could belong to.
+/// A comma where a value is missing stands for the value null as well.
 bool JsonRewriter::takeComma()
 {
     switch (place)
     {
     case Place::ArrayStart:
     case Place::ArrayNext:
+        // The comma that was taken is written by the next element. So "[1,]" stays at one element, as "[1]" does, while
+        // "[,]" has one and "[1,,2]" three.
         beginValue();
         strict += "null";
         place = Place::ArrayNext;
@@ -132,6 +149,7 @@ bool JsonRewriter::takeComma()
         place = openBrackets.ends_with('[') ? Place::ArrayNext : Place::ObjectNext;
         return true;
     default:
+        // "{," has no name that null could belong to, and a key needs its colon first.
         return false;
     }
 }
@@ -164,5 +182,6 @@ void JsonRewriter::beginKey()
 
 void JsonRewriter::endValue()
 {
+    // The bracket around the value says what a comma will mean, so one place serves arrays and objects.
     place = openBrackets.empty() ? Place::End : Place::AfterValue;
 }

@@ -7,6 +7,19 @@
 #include <algorithm>
 #include <array>
 
+// What each kind of token becomes in strict JSON:
+//
+//   in the file                  strict text
+//   --------------------------   ------------------------------------------------------------
+//   { } [ ] , :                  itself
+//   "text"                       its content without the quotes, control characters as "\u0009"
+//   True, NULL                   the word in small letters
+//   12, -0.5                     itself
+//   1e50, 400 digits             its decimal text as a string, quotes included; "" when it is out of range, as 1e400 is
+//   /* ... */, // ...            nothing, like a blank
+//
+// Quotes of strings are left to whoever asks: a string may go on in the next token.
+
 namespace
 {
 
@@ -92,6 +105,7 @@ JsonToken JsonScanner::next()
     case '"':
         return takeString();
     default:
+        // A single quote lands here too and is no word: only double quotes are strings.
         return takeWord();
     }
 }
@@ -111,6 +125,7 @@ bool JsonScanner::skipBlanks()
         }
         else if (ahead == "/*")
         {
+            // From after the opening: "/*/" is a comment that is still open.
             const std::size_t end = text.find("*/", position + 2);
             if (end == std::string_view::npos)
                 return false;
@@ -139,8 +154,10 @@ JsonToken JsonScanner::takeString()
         const std::string_view plain = runUpTo(text.substr(position), isSpecialInString);
         strict += plain;
         position += plain.size();
+        // The closing quote is missing. Where the string should have ended nobody can tell.
         if (position == text.size())
             return JsonToken::Bad;
+        // A backslash is looked at before the quote, which it may take the meaning from.
         if (text[position] == '\\')
         {
             if (!takeEscape())
@@ -148,6 +165,7 @@ JsonToken JsonScanner::takeString()
             continue;
         }
         const char special = text[position++];
+        // A quote that is not escaped ends the string, any other character here is a control character.
         if (special == '"')
             return JsonToken::String;
         appendEscaped(strict, special);
@@ -174,6 +192,7 @@ JsonToken JsonScanner::takeWord()
     // Nothing that strict JSON would refuse is mended here: 01, +1 and .5 may be anybody's mistake.
     if (!isJsonNumber(word))
         return JsonToken::Bad;
+    // As a string it passes the parser, and the reader of the document gets text for a number either way.
     strict = mayBeOutOfRange(word) ? '"' + decimalText(word) + '"' : std::string(word);
     return JsonToken::Word;
 }

@@ -3,6 +3,9 @@
 #include "json/JsonRewriter.h"
 #include "json/JsonScanner.h"
 
+// Two steps, a token at a time: the scanner knows what a token is and mends it, the rewriter knows where it may stand
+// and mends what is missing between tokens. Neither looks ahead, so the text is gone through once, whatever its size.
+
 std::optional<std::string> toStrictJson(std::string_view joined)
 {
     JsonScanner scanner(joined);
@@ -10,6 +13,7 @@ std::optional<std::string> toStrictJson(std::string_view joined)
     for (;;)
     {
         const JsonToken token = scanner.next();
+        // The end is no token to the rewriter: whether the text may end here is another question than what may follow.
         if (token == JsonToken::End)
             return rewriter.finish();
         if (!rewriter.take(token, scanner.strictText()))

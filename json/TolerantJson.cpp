@@ -11,6 +11,14 @@
 #include <limits>
 #include <utility>
 
+// Reading goes in up to two rounds:
+//
+//   1. The text as it is goes to the parser. Most files are strict JSON and need no second round.
+//   2. A text that the parser refuses has its lines joined and is rewritten; the result goes to the parser again.
+//
+// The parser's own tolerance for comments and trailing commas stays off. It knows neither missing values nor strings in
+// pieces, and two notions of what is tolerated would be one too many.
+
 namespace
 {
 
@@ -60,12 +68,14 @@ public:
         return true;
     }
 
+    // Numbers arrive as they are written: 1e2 has still to become 100.
     bool RawNumber(const char* text, rapidjson::SizeType length, bool)
     {
         events.text(decimalText({text, length}));
         return true;
     }
 
+    // No member of a tag database is meant to be true, false or null, so which of them it is counts for nothing.
     bool Bool(bool)
     {
         events.literal();
@@ -124,7 +134,8 @@ bool readStrictJson(const std::string& text, JsonEvents& events)
 
 bool readTolerantJson(std::string text, JsonEvents& events)
 {
-    // In strict JSON line breaks stand between tokens only, so it means the same before its lines are joined.
+    // In strict JSON line breaks stand between tokens only, so it means the same before its lines are joined. What the
+    // first round handed on of a text that it then refused is forgotten when the second one begins the document anew.
     if (readStrictJson(text, events))
         return true;
     const auto strict = toStrictJson(joinLines(std::move(text)));
