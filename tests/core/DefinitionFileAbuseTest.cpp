@@ -1,7 +1,6 @@
 #include "files/ReadFile.h"
 #include "map/DefinitionFile.h"
 #include "tests/core/Chance.h"
-#include "tests/core/MemoryLimit.h"
 #include "tests/core/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -201,48 +200,4 @@ TEST_F(DefinitionFileAbuse, TextsOfLinesThatEndUpWithoutASlotAreNotKept)
         EXPECT_EQ(InternedText::known(text), std::nullopt) << text;
     EXPECT_EQ(slot(5).tagname.view(), "SHOWN_NAME");
     EXPECT_EQ(slot(5).description.view(), "shown text");
-}
-
-TEST_F(DefinitionFileAbuse, FileThatNeedsMoreMemoryThanThereIsGivesAnEmptyMapAndNeverHalfOfOne)
-{
-    if (!memoryCanRunOut)
-        GTEST_SKIP();
-    std::string text;
-    for (int line = 0; line < 300'000; ++line)
-        text += "HOLDING," + std::to_string(line % 60'000) + ",NONE,INT16,SHORT_OF_MEMORY" + std::to_string(line) +
-                ",text,1\n";
-    text.append(std::size_t{40} << 20U, 'x'); // a line that says nothing
-    const std::filesystem::path file = folder.write("map.csv", text);
-    // The bytes of the file alone are too many for the first limit. Where the others meet the reader depends on what
-    // earlier tests have left of the heap.
-    for (const std::size_t megabytes : {30U, 56U, 64U, 72U, 80U, 88U, 112U})
-    {
-        map.initialise();
-        const MemoryLimit limit(megabytes << 20U);
-        const bool loaded = loadDefinitionFile(file, map, tags);
-        EXPECT_TRUE(!loaded || megabytes > 30) << megabytes;
-        EXPECT_EQ(map.isModified(), loaded) << megabytes;
-        EXPECT_EQ(slot(0).used, loaded) << megabytes;
-        EXPECT_EQ(slot(59'999).used, loaded) << megabytes;
-    }
-}
-
-TEST_F(DefinitionFileAbuse, SavingWhatNeedsMoreMemoryThanThereIsLeavesTheFile)
-{
-    if (!memoryCanRunOut)
-        GTEST_SKIP();
-    RegisterEntry entry;
-    entry.description = InternedText(std::string(10'000, 'x'));
-    for (const RegisterSpace space : allSpaces)
-    {
-        for (int address = 0; address < registersPerSpace; ++address)
-            map.placeObject(space, address, entry, 1);
-    }
-    const std::filesystem::path file = folder.write("map.csv", "as it was");
-    {
-        const MemoryLimit limit(std::size_t{1} << 28U);
-        EXPECT_FALSE(saveDefinitionFile(file, map));
-    }
-    EXPECT_EQ(readFile(file), "as it was");
-    EXPECT_TRUE(slot(65'535).used);
 }

@@ -5,13 +5,6 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#if defined(__SANITIZE_ADDRESS__)
-/// The address sanitizer ends the program where a request for memory fails, so that there is nothing to test.
-constexpr bool memoryCanRunOut = false;
-#else
-constexpr bool memoryCanRunOut = true;
-#endif
-
 /// Lets the program have no more than some bytes of memory beyond what it has.
 class MemoryLimit
 {

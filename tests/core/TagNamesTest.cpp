@@ -1,26 +1,15 @@
 #include "source/TagNames.h"
 
+#include "tests/core/NamedTags.h"
+
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <string>
 
 namespace
 {
 
 constexpr std::size_t plenty = 100;
-
-TagTable tableOf(std::initializer_list<const char*> names)
-{
-    TagTable tags;
-    TagRecord tag;
-    for (const char* const name : names)
-    {
-        tag.name = InternedText(name);
-        tags.append(tag);
-    }
-    return tags;
-}
 
 std::vector<std::string> offered(const TagTable& tags, std::string_view typed, std::size_t most = plenty)
 {

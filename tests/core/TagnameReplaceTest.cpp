@@ -1,12 +1,10 @@
 #include "map/TagnameReplace.h"
 
 #include "tests/core/MapBuilder.h"
-#include "tests/core/MemoryLimit.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <numeric>
 
 namespace
 {
@@ -159,25 +157,6 @@ TEST(TagnameReplace, SlotListedAgainIsRenamedOnce)
     replaceInTagnames(*slots, std::vector{10, 11, 11, 10, 10}, "A", "AA");
     EXPECT_EQ(nameAt(*slots, 10), "AA");
     EXPECT_EQ(nameAt(*slots, 11), "AA");
-}
-
-TEST(TagnameReplace, NamesThatNeedMoreMemoryThanThereIsChangeNothing)
-{
-    if (!memoryCanRunOut)
-        GTEST_SKIP();
-    const auto slots = drawnSpace(0, std::string(20'000, 'A'));
-    const auto before = std::make_unique<RegisterSlots>(*slots);
-    std::vector<int> addresses(20'000);
-    std::iota(addresses.begin(), addresses.end(), 0);
-    const std::string long16Kilobytes(1U << 14U, 'x');
-    {
-        const MemoryLimit limit(std::size_t{1} << 26U);
-        EXPECT_FALSE(replaceInTagnames(*slots, addresses, "A", long16Kilobytes));
-    }
-    EXPECT_TRUE(*slots == *before);
-    EXPECT_EQ(InternedText::known(long16Kilobytes), std::nullopt);
-    EXPECT_TRUE(replaceInTagnames(*slots, addresses, "A", "B"));
-    EXPECT_EQ(nameAt(*slots, 19'999), "B");
 }
 
 TEST(TagnameReplace, EveryOneOfManyDifferentNamesIsRenamed)

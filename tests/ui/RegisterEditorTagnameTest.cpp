@@ -1,5 +1,6 @@
 // The tagname of the register editor and the names that are offered for it.
 
+#include "tests/core/NamedTags.h"
 #include "tests/ui/EditorUnderTest.h"
 #include "ui/ToolkitText.h"
 
@@ -11,22 +12,8 @@
 #include <wx/timer.h>
 #include <wx/uiaction.h>
 
-#include <initializer_list>
-
 namespace
 {
-
-TagTable tableOf(std::initializer_list<const char*> names)
-{
-    TagTable tags;
-    TagRecord tag;
-    for (const char* const name : names)
-    {
-        tag.name = InternedText(name);
-        tags.append(tag);
-    }
-    return tags;
-}
 
 /// The list of names while it is open. The toolkit knows nothing of such windows.
 GtkWindow* openList()

@@ -1,0 +1,85 @@
+// What needs more memory than there is leaves map and files as they were.
+
+#include "files/ReadFile.h"
+#include "map/DefinitionFile.h"
+#include "map/TagnameReplace.h"
+#include "tests/core/MapBuilder.h"
+#include "tests/core/MemoryLimit.h"
+#include "tests/core/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <string>
+
+namespace
+{
+
+class MemoryShortage : public testing::Test
+{
+protected:
+    const RegisterEntry& holding(int address) const { return map.slots(RegisterSpace::Holding)[address]; }
+
+    TempFolder folder;
+    TagTable tags;
+    RegisterMap map;
+};
+
+} // namespace
+
+TEST_F(MemoryShortage, DefinitionFileThatNeedsMoreMemoryThanThereIsGivesAnEmptyMapAndNeverHalfOfOne)
+{
+    std::string text;
+    for (int line = 0; line < 300'000; ++line)
+        text += "HOLDING," + std::to_string(line % 60'000) + ",NONE,INT16,SHORT_OF_MEMORY" + std::to_string(line) +
+                ",text,1\n";
+    text.append(std::size_t{40} << 20U, 'x'); // a line that says nothing
+    const std::filesystem::path file = folder.write("map.csv", text);
+    // The bytes of the file alone are too many for the first limit. Where the others meet the reader depends on what
+    // earlier tests have left of the heap.
+    for (const std::size_t megabytes : {30U, 56U, 64U, 72U, 80U, 88U, 112U})
+    {
+        map.initialise();
+        const MemoryLimit limit(megabytes << 20U);
+        const bool loaded = loadDefinitionFile(file, map, tags);
+        EXPECT_TRUE(!loaded || megabytes > 30) << megabytes;
+        EXPECT_EQ(map.isModified(), loaded) << megabytes;
+        EXPECT_EQ(holding(0).used, loaded) << megabytes;
+        EXPECT_EQ(holding(59'999).used, loaded) << megabytes;
+    }
+}
+
+TEST_F(MemoryShortage, SavingWhatNeedsMoreMemoryThanThereIsLeavesTheFile)
+{
+    RegisterEntry entry;
+    entry.description = InternedText(std::string(10'000, 'x'));
+    for (const RegisterSpace space : allSpaces)
+    {
+        for (int address = 0; address < registersPerSpace; ++address)
+            map.placeObject(space, address, entry, 1);
+    }
+    const std::filesystem::path file = folder.write("map.csv", "as it was");
+    {
+        const MemoryLimit limit(std::size_t{1} << 28U);
+        EXPECT_FALSE(saveDefinitionFile(file, map));
+    }
+    EXPECT_EQ(readFile(file), "as it was");
+    EXPECT_TRUE(holding(65'535).used);
+}
+
+TEST_F(MemoryShortage, NamesThatNeedMoreMemoryThanThereIsChangeNothing)
+{
+    const auto slots = drawnSpace(0, std::string(20'000, 'A'));
+    const auto before = std::make_unique<RegisterSlots>(*slots);
+    std::vector<int> addresses(20'000);
+    std::iota(addresses.begin(), addresses.end(), 0);
+    const std::string long16Kilobytes(1U << 14U, 'x');
+    {
+        const MemoryLimit limit(std::size_t{1} << 26U);
+        EXPECT_FALSE(replaceInTagnames(*slots, addresses, "A", long16Kilobytes));
+    }
+    EXPECT_TRUE(*slots == *before);
+    EXPECT_EQ(InternedText::known(long16Kilobytes), std::nullopt);
+    EXPECT_TRUE(replaceInTagnames(*slots, addresses, "A", "B"));
+    EXPECT_EQ((*slots)[19'999].tagname.view(), "B");
+}
