@@ -93,7 +93,7 @@ TEST(LargeFonts, FixedTextsHaveRoom)
     EXPECT_GE(tags.GetColSize(2) - 4, widthInCells(tags, "255"));
 }
 
-TEST(LargeFonts, DescribedWidthsAreTheLeast)
+TEST(LargeFonts, UsualWidthsAreTheLeast)
 {
     const PlantFiles files("");
     const EditorWindow& editor = *openEditor(files.startup());

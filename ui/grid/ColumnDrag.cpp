@@ -1,3 +1,7 @@
+// Pulling at the ends of columns. The grid can do so itself, but only in its own labels, and those are hidden: the
+// titles are a row of texts above the grid. All places are counted in pixels of the unscrolled grid, where the end of a
+// column is the sum of the widths up to it.
+
 #include "ui/grid/ColumnDrag.h"
 
 #include "ui/grid/ColumnWidths.h"
@@ -19,7 +23,9 @@ constexpr int reach = 5;
 ColumnDrag::ColumnDrag(GridHeader& titleRow, wxGrid& columnsOf, GridColumns gridColumns)
     : header(titleRow), grid(columnsOf), columns(gridColumns)
 {
+    // Each title is watched as well; the row itself gets the mouse between two of them.
     watch(header);
+    // Toolkit 3.2 asserts when the mouse is taken away and nobody handles it. The column then stays as wide as it is.
     header.Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { pulled.reset(); });
 }
 
@@ -36,6 +42,7 @@ void ColumnDrag::OnMotion(wxMouseEvent& event)
     event.Skip();
     const int place = placeOf(event);
     if (pulled)
+        // The end keeps its distance to the mouse, so that it does not jump when it is taken beside the line.
         resize(*pulled, place + grip - (rightEndOf(*pulled) - grid.GetColSize(*pulled)));
     else
         header.SetCursor(columnEndingNear(place) ? wxCursor(wxCURSOR_SIZEWE) : wxNullCursor);
@@ -51,6 +58,7 @@ void ColumnDrag::OnLeftDown(wxMouseEvent& event)
         return;
     }
     grip = rightEndOf(*pulled) - place;
+    // The button may go up anywhere, also outside the window.
     header.CaptureMouse();
 }
 
@@ -58,6 +66,7 @@ void ColumnDrag::OnLeftUp(wxMouseEvent& event)
 {
     event.Skip();
     pulled.reset();
+    // A double click ends with a second "up" that had no "down" of its own.
     if (header.HasCapture())
         header.ReleaseMouse();
 }
@@ -88,9 +97,11 @@ int ColumnDrag::rightEndOf(int column) const
 std::optional<int> ColumnDrag::columnEndingNear(int place) const
 {
     int end = 0;
+    // The last seen column is left out: it takes what the others leave, so its end stays where the grid ends.
     for (int column = 0; column < lastSeenColumn(columns); ++column)
     {
         end += grid.GetColSize(column);
+        // The columns of the map grid are fixed. The grid knows, although its labels are hidden.
         if (grid.CanDragColSize(column) && std::abs(end - place) <= header.FromDIP(reach))
             return column;
     }
@@ -99,6 +110,7 @@ std::optional<int> ColumnDrag::columnEndingNear(int place) const
 
 void ColumnDrag::resize(int column, int width)
 {
+    // Never narrower than its title and its usual texts: a type or an address that is cut says nothing.
     grid.SetColSize(column, std::max(width, columnWidths::needed(grid, columns[static_cast<std::size_t>(column)])));
     header.settle();
 }

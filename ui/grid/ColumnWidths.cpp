@@ -1,3 +1,6 @@
+// How wide columns are. The table of columns gives pixels that suit texts of the usual size. A desktop may show its
+// texts much larger; from then on the title and the texts that a column is made for decide.
+
 #include "ui/grid/ColumnWidths.h"
 
 #include "ui/Theme.h"
@@ -29,6 +32,8 @@ int extent(const wxGrid& grid, std::string_view text, const wxFont& font)
 /// Pixels of the longest text of a column, margins included.
 int widestCell(wxGrid& grid, int column)
 {
+    // Every row counts, also those out of sight; the sums of character widths keep that quick enough for a double
+    // click.
     wxClientDC dc(grid.GetGridWindow());
     dc.SetFont(grid.GetDefaultCellFont());
     TextWidths widths;
@@ -45,6 +50,7 @@ namespace columnWidths
 
 int opening(const wxGrid& grid, const GridColumn& column)
 {
+    // A column without a width holds what the program reads and the user does not. It stays hidden in any font.
     return column.width == 0 ? 0 : std::max(grid.FromDIP(column.width), needed(grid, column));
 }
 
@@ -60,6 +66,7 @@ int needed(const wxGrid& grid, const GridColumn& column)
 int fitting(wxGrid& grid, GridColumns columns, int index)
 {
     const int least = needed(grid, columns[static_cast<std::size_t>(index)]);
+    // Not wider than the grid: one long description would move all other columns out of sight.
     return std::max(least, std::min(widestCell(grid, index), grid.GetClientSize().GetWidth()));
 }
 

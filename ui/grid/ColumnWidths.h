@@ -8,8 +8,8 @@ class wxGrid;
 namespace columnWidths
 {
 
-/// Pixels with which a column opens: what is described for it, or more where it would not be enough; 0 for a column
-/// that is never seen.
+/// Pixels with which a column opens: the width in its table of columns, or more where the title or the usual texts need
+/// more; 0 for a column that is never seen.
 int opening(const wxGrid& grid, const GridColumn& column);
 
 /// Pixels that a column needs for its title and for the widest of the texts it is made for.

@@ -1,3 +1,6 @@
+// The titles above a grid. The grid's own labels are hidden, so this row does by itself what labels do: it follows the
+// widths of the columns, the size of the grid and its scrolling sideways.
+
 #include "ui/grid/GridHeader.h"
 
 #include "ui/Theme.h"
@@ -13,6 +16,7 @@ namespace
 {
 
 /// Pixels left free beside the last column, the width of a scroll bar.
+/// Free also while there is no scroll bar: the texts do not jump when the list gets long enough for one.
 constexpr int scrollBarRoom = 20;
 
 } // namespace
@@ -21,6 +25,7 @@ GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColu
     : QuietPanel(parent), grid(columnsOf), columns(gridColumns), drag(*this, columnsOf, gridColumns)
 {
     SetBackgroundColour(theme::colour(theme::columnHeaderBackground));
+    // The column of marks and the hidden one have no title; their room stays empty.
     for (std::size_t column = 0; column < columns.size(); ++column)
     {
         if (!columns[column].title.empty())
@@ -33,6 +38,7 @@ GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColu
         settle();
     };
     Bind(wxEVT_SIZE, settleAfterwards);
+    // The grid gets its new size after this row. What was settled with the old one is settled again.
     grid.Bind(wxEVT_SIZE, settleAfterwards);
 }
 
@@ -59,6 +65,7 @@ void GridHeader::stretchLastColumn()
     int width = grid.GetSize().GetWidth() - FromDIP(scrollBarRoom);
     for (int column = 0; column < last; ++column)
         width -= grid.GetColSize(column);
+    // In a narrow window it is not folded away; the grid can then be scrolled sideways.
     const int least = columnWidths::needed(grid, columns[static_cast<std::size_t>(last)]);
     grid.SetColSize(last, std::max(width, least));
 }
@@ -73,6 +80,7 @@ void GridHeader::placeTitles()
         for (; column < title.column; ++column)
             left += grid.GetColSize(column);
         const int width = std::max(grid.GetColSize(column) - FromDIP(titleGap), 0);
+        // The last title goes on to the end of the row, over the room of the scroll bar too.
         const bool last = &title == &titles.back();
         title.text->SetMinSize(wxSize(last ? 0 : width, -1));
         title.text->SetSize(left, FromDIP(titleGap), last ? std::max(GetClientSize().GetWidth() - left, width) : width,
@@ -83,6 +91,8 @@ void GridHeader::placeTitles()
 void GridHeader::OnInternalIdle()
 {
     QuietPanel::OnInternalIdle();
+    // A grid of toolkit 3.2 sends no event when its cursor scrolls it. Idle time comes after every event, so the titles
+    // are late by one picture at most.
     if (placedLeft != columnsLeft())
         placeTitles();
 }

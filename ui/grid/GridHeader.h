@@ -22,10 +22,10 @@ public:
     GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColumns);
 
     /// Gives the last seen column what the columns before it leave of the grid's width, less 20 pixels for the scroll
-    /// bar, and puts every title over its column. It does so of its own accord when the grid changes its size.
+    /// bar, and puts every title over its column. It does so by itself when the grid changes its size.
     void settle();
 
-    /// Follows the grid when it is scrolled sideways, which it tells nobody.
+    /// Follows the grid when it is scrolled sideways; the grid sends no event for that.
     void OnInternalIdle() override;
 
 private:

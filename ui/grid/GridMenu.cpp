@@ -1,3 +1,6 @@
+// Where a context menu opens, and for which rows. Every command works on the selection, so a menu must never open over
+// a row that its commands will leave alone.
+
 #include "ui/grid/GridMenu.h"
 
 #include <wx/grid.h>
@@ -11,8 +14,10 @@ namespace
 void selectRowAt(wxGrid& grid, wxPoint place)
 {
     const int row = grid.YToRow(grid.CalcUnscrolledPosition(place).y);
+    // A click inside the selection keeps it: lock, cut and compress are meant for many rows.
     if (row == wxNOT_FOUND || grid.IsInSelection(row, 0))
         return;
+    // The cursor goes along, so that the arrow keys go on from here.
     grid.SetGridCursor(row, 0);
     grid.SelectRow(row);
 }
@@ -20,6 +25,7 @@ void selectRowAt(wxGrid& grid, wxPoint place)
 wxPoint belowCursor(wxGrid& grid)
 {
     const int row = grid.GetGridCursorRow();
+    // The cursor may stand on a row that is gone, or on none.
     if (row < 0 || row >= grid.GetNumberRows())
         return {0, 0};
     grid.MakeCellVisible(row, grid.GetGridCursorCol());
@@ -31,6 +37,7 @@ wxPoint belowCursor(wxGrid& grid)
 
 void popUpMenuUnderMouse(wxGrid& grid, wxMenu& menu, wxPoint place)
 {
+    // First, so that the user sees beside the open menu what it is about.
     selectRowAt(grid, place);
     grid.GetGridWindow()->PopupMenu(&menu, place);
 }

@@ -1,18 +1,24 @@
+// Scrolling a grid by rows. The toolkit scrolls as little as it takes; after a search or a change of space an address
+// is to be the first one seen, and after an exchange of rows the view is to stay where it was.
+
 #include "ui/grid/GridScrolling.h"
 
 #include <wx/grid.h>
 
 void scrollToTop(wxGrid& grid, int row)
 {
+    // This also brings the first column back into view when the grid is scrolled sideways.
     grid.MakeCellVisible(row, 0);
     int unit = 0;
     grid.GetScrollPixelsPerUnit(nullptr, &unit);
+    // The toolkit stops by itself where there are not enough rows below to fill the window.
     if (unit > 0)
         grid.Scroll(wxDefaultCoord, row * grid.GetRowSize(row) / unit);
 }
 
 void bringIntoView(wxGrid& grid, int row)
 {
+    // No column is named: sideways the view stays.
     grid.MakeCellVisible(row, -1);
 }
 

@@ -1,3 +1,6 @@
+// Draws cells. A page of the grid is some hundred texts, and with GTK measuring one takes longer than drawing it. So
+// texts are measured only where it matters: when they are centred, or when they may not fit.
+
 #include "ui/grid/RowCellRenderer.h"
 
 #include "ui/grid/CellText.h"
@@ -27,6 +30,7 @@ wxString shortened(const wxDC& dc, const wxString& text, int room)
 void RowCellRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect, int row, int col,
                            bool isSelected)
 {
+    // The whole cell first: what is still to be seen there may have been selected.
     dc.SetPen(*wxTRANSPARENT_PEN);
     dc.SetBrush(isSelected ? grid.GetSelectionBackground() : attr.GetBackgroundColour());
     dc.DrawRectangle(rect);
@@ -57,12 +61,14 @@ void RowCellRenderer::drawLine(wxDC& dc, const wxString& text, const wxRect& rec
         }
     }
     const int x = centred ? (rect.width - size.GetWidth()) / 2 : 0;
+    // A letter may reach a little beyond its measured width, for example into the next column.
     const wxDCClipper clip(dc, rect);
     dc.DrawText(shown, rect.x + x, rect.y + (rect.height - size.GetHeight()) / 2);
 }
 
 bool RowCellRenderer::surelyFits(wxDC& dc, const wxString& text, int room)
 {
+    // Other scripts join or stack their characters, so their widths do not add up.
     return text.IsAscii() && widths.about(text, dc) + tolerance <= room;
 }
 
@@ -70,6 +76,7 @@ int RowCellRenderer::plainHeight(wxDC& dc)
 {
     if (!measuredFont.IsSameAs(dc.GetFont()))
     {
+        // Plain letters have one height in a font.
         measuredFont = dc.GetFont();
         lineHeight = dc.GetTextExtent("x").GetHeight();
     }
@@ -82,6 +89,8 @@ bool showsWholeText(wxGrid& grid, int row, int column)
     const wxString shown = cellText::forCell(text);
     wxClientDC dc(grid.GetGridWindow());
     dc.SetFont(grid.GetCellFont(row, column));
+    // Measured exactly: it is one cell at a time, and a tooltip over a text that is seen whole would only be in the
+    // way.
     const int room = grid.GetColSize(column) - 2 * RowCellRenderer::margin;
     return shown == text && dc.GetTextExtent(text).GetWidth() <= room;
 }

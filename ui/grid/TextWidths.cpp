@@ -1,3 +1,6 @@
+// Adds up the widths of texts. One sample of each character is measured and kept, until the font changes: a plant's
+// tagnames are made of a few dozen different characters.
+
 #include "ui/grid/TextWidths.h"
 
 #include <wx/dc.h>
@@ -21,6 +24,7 @@ int TextWidths::about(const wxString& text, wxDC& dc)
     }
     double width = 0;
     for (const wxUniChar character : text)
+        // Pairs that a font moves together are not known here, so a sum is near and not exact.
         width += widthOf(static_cast<wchar_t>(character.GetValue()), dc);
     return static_cast<int>(std::ceil(width));
 }

@@ -1,9 +1,13 @@
+// A table that keeps one number for each row and makes texts only for the cells that are painted. Filled the usual way,
+// a grid would hold eight texts for each of 65,536 rows and make them anew after every command.
+
 #include "ui/grid/VirtualGridTable.h"
 
 void VirtualGridTable::show(std::vector<int> rowKeys)
 {
     const int before = GetNumberRows();
     keys = std::move(rowKeys);
+    // Before the table has been given to a grid there is nobody to tell.
     if (GetView() != nullptr)
         announceNewRows(before);
 }
@@ -13,7 +17,10 @@ void VirtualGridTable::announceNewRows(int before)
     wxGrid& grid = *GetView();
     const int after = GetNumberRows();
     const wxGridUpdateLocker batch(&grid);
+    // The selection is kept by row numbers, and those are about to mean other rows.
     grid.ClearSelection();
+    // The grid is told only how many rows more or fewer there are, at the end. It then keeps its scroll position, which
+    // giving it a new table would lose.
     if (after < before)
     {
         wxGridTableMessage message(this, wxGRIDTABLE_NOTIFY_ROWS_DELETED, after, before - after);
@@ -24,6 +31,7 @@ void VirtualGridTable::announceNewRows(int before)
         wxGridTableMessage message(this, wxGRIDTABLE_NOTIFY_ROWS_APPENDED, after - before);
         grid.ProcessTableMessage(message);
     }
+    // Rows that stay in number are others all the same.
     grid.ForceRefresh();
 }
 
