@@ -4,6 +4,12 @@
 
 #include <array>
 
+// A group as the files have it; a tag belongs to it when it has one of the mask's bits:
+//
+//   {"mask": "4000", "flag": "ALM", "type": "user", "desc": "Alarms"}
+//
+// The mask is hexadecimal, with or without "0x", although a tag's own bits are given as a decimal number.
+
 namespace
 {
 
@@ -32,7 +38,8 @@ void GroupListReader::member(std::string_view name, std::string_view content)
 
 void GroupListReader::endElement()
 {
-    // Only now: the mask may stand anywhere among the members, and twice.
+    // Only now: the mask may stand anywhere among the members, and twice. Equality is meant: a mask that has the
+    // reserved bit among others is that of a group like any other.
     if (groups.back().mask == reservedMask)
         groups.pop_back();
 }

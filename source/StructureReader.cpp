@@ -3,6 +3,15 @@
 #include <array>
 #include <cstddef>
 
+// The tree is kept flat, depth first as the file has it, with the index of each node's parent:
+//
+//   {"lable": "Plant", "structure": [        0  Plant   -1
+//      {"lable": "Pumps", "structure": [     1  Pumps    0
+//         {"lable": "P1"}]},                 2  P1       1
+//      {"lable": "Tanks"}]}                  3  Tanks    0
+//
+// Any depth is read so without recursion, and whoever shows the tree has each parent made before its children.
+
 namespace
 {
 
@@ -37,7 +46,8 @@ void StructureReader::member(std::string_view name, std::string_view content)
 {
     const auto index = static_cast<std::size_t>(openNodes.back());
     takeMember(members, nodes[index], name, content);
-    // Whether it is there counts, not what it is: null makes a root without text.
+    // Whether it is there counts, not what it is: null makes a root without text. Further down a node without the
+    // member is no failure either, it only has no text.
     if (name == lable && index == 0)
         rootHasLable = true;
     // Nodes stand in the order of the file, so whatever follows this one now came from an earlier list of children.
@@ -47,6 +57,7 @@ void StructureReader::member(std::string_view name, std::string_view content)
 
 bool StructureReader::holdsChildren(std::string_view memberName) const
 {
+    // Too deep a list is passed over like any other member that means nothing, so its node stays, as a leaf.
     return memberName == children && openNodes.size() <= deepestLevel;
 }
 

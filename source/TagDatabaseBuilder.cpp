@@ -11,8 +11,15 @@
 //         {"lable": "Pumps"}                     level 5
 //       ]}
 //     ],
+//     "database": [                              level 2
+//       {"Name": "Pumps.P1.Speed", "Size": 2}    level 3
+//     ],
 //     "made by": {"tool": ["x"]}                 ignored; the level stays 1
 //   }
+//
+// At level 1 the member's name chooses the reader; from there on down each value goes to that reader. What means
+// nothing is counted by its brackets only (`ignoredDepth`) until its last one closes, so whatever is inside cannot be
+// mistaken for a list: "structure" inside "made by" is none.
 
 void TagDatabaseBuilder::beginDocument()
 {
@@ -45,6 +52,7 @@ void TagDatabaseBuilder::endArray()
 
 void TagDatabaseBuilder::key(std::string_view name)
 {
+    // The name of the value that follows at once, so one name is enough whatever the depth.
     if (ignoredDepth == 0)
         memberName = name;
 }
@@ -61,6 +69,7 @@ void TagDatabaseBuilder::literal()
 
 void TagDatabaseBuilder::value(Kind kind, std::string_view content)
 {
+    // Inside a list there are only its elements, inside an element only its members: the level alone says which.
     if (ignoredDepth > 0)
         ignore(kind);
     else if (level == Outside)
@@ -83,6 +92,7 @@ void TagDatabaseBuilder::rootMember(Kind kind)
         list = &tags;
     else
         return ignore(kind);
+    // Before the kind is looked at: a list that is there as a number or null counts as present, and as empty.
     list->begin();
     open(kind, Kind::Array);
 }
@@ -99,6 +109,8 @@ void TagDatabaseBuilder::listElement(Kind kind)
 
 void TagDatabaseBuilder::elementMember(Kind kind, std::string_view content)
 {
+    // Told whatever its kind is, with no content when it has none: the last member of a name counts, so a later null
+    // takes an earlier value back.
     list->member(memberName, content);
     if (kind == Kind::Array && list->holdsChildren(memberName))
         ++level;
@@ -128,6 +140,7 @@ void TagDatabaseBuilder::close()
         --ignoredDepth;
         return;
     }
+    // The root is at an odd level as well, but belongs to no list.
     const bool wasElement = level > List && level % 2 != List % 2;
     --level;
     if (wasElement)

@@ -7,6 +7,15 @@
 #include <exception>
 #include <utility>
 
+// From the file to the database:
+//
+//   readFile     any bytes, or "Input file not found"
+//   decodeText   UTF-8, whatever the encoding was
+//   readTolerantJson, which tells a TagDatabaseBuilder what it finds piece by piece, or "Bad JSON format"
+//   takeOver     what is there, up to the first thing that is missing
+//
+// The bytes are handed on from step to step, not copied: a file may have 200 MB.
+
 namespace
 {
 

@@ -18,6 +18,7 @@ bool belongsToAll(const TagRecord& tag, const std::vector<std::uint32_t>& masks)
 
 TagSearchIndex::TagSearchIndex(const TagTable& tags)
 {
+    // Capitals are hardly ever longer than their letters, so the sum of the lengths is room enough to begin with.
     std::size_t length = 0;
     for (int tag = 0; tag < tags.count(); ++tag)
         length += tags[tag].name.view().size() + tags[tag].description.view().size();
@@ -43,13 +44,15 @@ std::string_view TagSearchIndex::text(std::size_t index) const
 
 std::vector<int> filterTags(const TagTable& tags, const TagSearchIndex& index, const TagFilter& filter)
 {
-    // No letter has "*" or "?" for its capital: what was typed as a wildcard is one, and nothing else is.
+    // The stars around it make it a search for a piece of the text. No letter has "*" or "?" for its capital: what was
+    // typed as a wildcard is one, and nothing else is.
     const std::string pattern = toUpperCase("*" + filter.text + "*");
     std::vector<int> shown;
     for (int tag = 0; tag < tags.count(); ++tag)
     {
         const TagRecord& record = tags[tag];
-        // The prefix comes from the tree, not from a keyboard: its letter case counts.
+        // The prefix comes from the tree, not from a keyboard: its letter case counts. The searches come last, as they
+        // take the most time and need not be made for a tag that another part of the filter hides.
         if (record.name.view().starts_with(filter.prefix) && belongsToAll(record, filter.checkedMasks) &&
             (matchesWildcard(pattern, index.name(tag)) || matchesWildcard(pattern, index.description(tag))))
             shown.push_back(tag);

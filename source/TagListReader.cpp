@@ -6,6 +6,14 @@
 #include <array>
 #include <cstdint>
 
+// A tag as the files have it, with its numbers as numbers or as texts of digits:
+//
+//   {"Name": "Pumps.P1.Speed", "Description": "Speed of pump 1", "Type": "Numeric", "Size": 4, "Elements": 2,
+//    "Attributes": 0, "Groups": 16384}
+//
+// A member that is missing leaves what an unused record has. Members may come in any order, so nothing is decided
+// before the last of them.
+
 namespace
 {
 

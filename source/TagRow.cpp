@@ -4,6 +4,9 @@
 #include <string_view>
 #include <vector>
 
+// A row of the tag grid is worked out when it is painted: a database may have 65,536 of them, and some forty are in
+// sight. The last column, the tag's index, has no width; it is how the row is found again in the table.
+
 namespace
 {
 
@@ -32,7 +35,7 @@ std::string flagsText(const std::vector<TagGroup>& groups, std::uint32_t tagGrou
         if ((group.mask & tagGroups) != 0)
             flags += group.flag + "-";
     }
-    // Cut before the last "-", wherever that is: a last group whose name is empty or ends in "-" leaves its mark.
+    // Cut before the last "-", the one after the last name. Names may be empty or hold a "-" of their own, and keep it.
     return flags.substr(0, flags.empty() ? 0 : flags.rfind('-'));
 }
 

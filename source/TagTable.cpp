@@ -1,5 +1,13 @@
 #include "source/TagTable.h"
 
+// Names are found by open addressing: each name belongs into the slot that its hash says, or into the next free one.
+//
+//   slot of firstByName   ...  17    18    19    20  ...
+//   record                      -     4     9     -         records 4 and 9 have hashes that lead to slot 18
+//
+// A search goes on until it meets the name or a free slot. With half of the slots free at least, that is one or two
+// steps. Only the first record of a name is entered; later ones can be reached by their index alone.
+
 TagTable::TagTable() : records(tagCapacity), firstByName(slotCount, freeSlot) {}
 
 void TagTable::clear()
