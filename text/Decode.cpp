@@ -10,6 +10,15 @@
 #include <string_view>
 #include <utility>
 
+// How the encoding is found, since the files themselves do not say:
+//
+//   begins with a byte-order mark         that of the mark
+//   else, all bytes well-formed UTF-8     UTF-8
+//   else                                  ISO 8859-1, in which any bytes are a text
+//
+// With a mark a wrong byte costs one character. Without one it decides against UTF-8 for the whole file, as files of
+// older tools have a single encoding from start to end.
+
 namespace
 {
 
@@ -92,9 +101,10 @@ private:
 
 std::string decodeUtf8(std::string bytes)
 {
-    // Most files are in order, and then handed on without a copy.
+    // Most files are in order, and are handed on without a copy.
     if (isValidUtf8(bytes))
         return bytes;
+    // The replacement character takes three bytes, so a text full of wrong ones grows beyond this; that is rare.
     std::string text;
     text.reserve(bytes.size());
     for (std::size_t position = 0; position < bytes.size();)
@@ -116,6 +126,7 @@ std::string decodeUtf16(std::string_view bytes, bool lowestByteFirst)
     while (units.hasUnit())
     {
         std::uint32_t codePoint = units.take();
+        // What follows is looked at before it is taken: if it is not a second half, it begins a character of its own.
         if (isHighSurrogate(codePoint) && units.hasUnit() && isLowSurrogate(units.peek()))
             codePoint = 0x10000U + ((codePoint - 0xD800U) << 10U) + (units.take() - 0xDC00U);
         appendCharacter(text, codePoint);
@@ -150,6 +161,7 @@ std::string decodeLatin1(std::string_view bytes)
     {
         if (isHigh(c))
         {
+            // Two bytes, 110000xx and 10xxxxxx, are enough for characters below 256.
             const unsigned byte = static_cast<unsigned char>(c);
             *place++ = static_cast<char>(0xC0U | byte >> 6U);
             *place++ = static_cast<char>(0x80U | (byte & 0x3FU));
@@ -176,6 +188,7 @@ std::string decodeText(std::string bytes)
         return bytes;
     }
 
+    // The mark is no part of the text: as a character it would be the first one of a key or a keyword.
     bytes.erase(0, mark->bytes.size());
     switch (mark->encoding)
     {

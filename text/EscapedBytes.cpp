@@ -2,6 +2,15 @@
 
 #include "text/Utf8.h"
 
+// A file name that is not UTF-8 on its way through the toolkit and back:
+//
+//   name on the disk     T  E4  N  K                 E4 alone is no UTF-8
+//   escaped              T  U+10FFE4  N  K           well-formed, so the toolkit takes it
+//   unescaped            T  E4  N  K                 the same file is opened
+//
+// The characters used are for private use and hardly ever mean anything to anyone. Should a name hold one all the same,
+// its own four bytes are escaped, so that no two names become one.
+
 namespace
 {
 

@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <limits>
 
+// Numbers are read as C's own functions read them, which files count on: blanks in front are skipped, reading stops at
+// the first character that is not a digit, and no digits at all are 0. `strtol` itself would need each field copied
+// with a zero byte after it, and `from_chars` takes neither blanks nor a "+".
+
 namespace
 {
 

@@ -9,6 +9,15 @@
 #include <string>
 #include <vector>
 
+// Where texts lie, and how one is found:
+//
+//   blocks   | 4 T a n k | 6 P u m p _ 1 . . | 4 F l o w |      each text after its length, padded to whole headers
+//              ^           ^                   ^
+//   handles    |           |                   |                what slots and tags hold
+//   slots    [ hash,entry | free | hash,entry | free | ... ]    open addressing, sought by the hash of the content
+//
+// Blocks never move or go, so a handle stays good while the table of slots grows under it.
+
 namespace
 {
 
@@ -20,6 +29,7 @@ struct Header
 
 std::string_view contentOf(const void* entry)
 {
+    // Copied out, because the block is bytes and holds no object that a pointer could point to.
     Header header{};
     std::memcpy(&header, entry, sizeof header);
     return {static_cast<const char*>(entry) + sizeof header, header.length};
@@ -89,6 +99,7 @@ private:
 
     void reserve(std::size_t further)
     {
+        // Three quarters full at most: a search then ends after a few steps, and always at the text or a free slot.
         while ((count + further) * 4 > slots.size() * 3)
             grow();
     }
@@ -97,6 +108,7 @@ private:
     {
         const std::size_t mask = table.size() - 1;
         std::size_t index = hash & mask;
+        // The hashes are compared first; the bytes of another text are hardly ever fetched.
         while (table[index].entry != nullptr && !(table[index].hash == hash && contentOf(table[index].entry) == utf8))
             index = (index + 1) & mask;
         return table[index];
@@ -107,6 +119,7 @@ private:
         // Room for names and descriptions of a full database: growing up to there would take 4 ms of its loading.
         constexpr std::size_t firstSize = 1U << 18U;
         std::vector<Slot> larger(std::max(firstSize, slots.size() * 2));
+        // Each entry is on its place by its hash alone: all of them are different, so there is nothing to compare.
         const std::size_t mask = larger.size() - 1;
         for (const Slot& slot : slots)
         {
@@ -122,6 +135,7 @@ private:
 
     const void* store(std::string_view utf8)
     {
+        // Rounded up to whole headers: the two lowest bits of a handle are always zero, and its hash leaves them out.
         const std::size_t wanted = (sizeof(Header) + utf8.size() + alignof(Header) - 1) & ~(alignof(Header) - 1);
         if (wanted > room)
             addBlock(wanted);
@@ -136,6 +150,7 @@ private:
 
     void addBlock(std::size_t wanted)
     {
+        // What is left of the block before is given up. A text longer than a block gets one of its own.
         constexpr std::size_t blockSize = 1U << 18U;
         const std::size_t size = std::max(blockSize, wanted);
         // Memory may run out here; nothing is changed until it is there, so that the texts before stay usable.

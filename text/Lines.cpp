@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+// In place, because a file may have 200 MB and a second copy of it would be needed for this moment only.
+
 std::string joinLines(std::string text)
 {
     // Lines move towards the front while the search runs ahead of them, so no byte is overwritten before it is read.

@@ -6,6 +6,9 @@
 
 #include <cstddef>
 
+// Searching in any letter case compares capitals, of the tags made once and of what is typed at each keystroke. Letter
+// by letter and by no language's rules: the same search finds the same tags everywhere, on a Turkish desktop too.
+
 namespace
 {
 
@@ -43,6 +46,7 @@ void appendUpperCase(std::string& target, std::string_view utf8)
     std::size_t position = 0;
     while (position < utf8.size())
     {
+        // By turns: a run of ASCII, which may be empty, and one character that is not.
         const std::size_t run = asciiRunLength(utf8, position);
         appendUpperCaseAscii(target, utf8.substr(position, run));
         position += run;

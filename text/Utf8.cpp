@@ -6,6 +6,10 @@
 #include <cstdint>
 #include <cstring>
 
+// The library knows what UTF-8 is; what is added here is the run of ASCII, which nearly all texts consist of, and one
+// answer to bytes that are not UTF-8. Each of them is taken alone, so that reading goes on at the very next byte and no
+// character after a broken one is lost.
+
 std::size_t asciiRunLength(std::string_view text, std::size_t start)
 {
     // Eight bytes at a time: on a file of 13 MB this saves 3 ms against going byte by byte.
@@ -17,6 +21,7 @@ std::size_t asciiRunLength(std::string_view text, std::size_t start)
         if ((bytes & highBits) != 0)
             break;
     }
+    // The rest: up to the first high byte of the eight where the run ends, or the last bytes of the text.
     while (end < text.size() && static_cast<unsigned char>(text[end]) < 0x80)
         ++end;
     return end - start;

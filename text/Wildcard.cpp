@@ -4,6 +4,14 @@
 
 #include <cstddef>
 
+// A star first matches nothing and then ever more, until the rest of the pattern matches too:
+//
+//   pattern   *   ump   *    _run   *
+//   text      p   ump   _a   _run   s
+//
+// Only the last star is ever tried again. What an earlier one has taken stays: it took as little as it could, so the
+// stars after it have the most to choose from. That is why many stars cost no more than one after the other.
+
 namespace
 {
 
