@@ -2,79 +2,18 @@
 
 #include "files/ReadFile.h"
 #include "files/SafeWrite.h"
-#include "map/DefinitionPlacer.h"
+#include "map/DefinitionReader.h"
 #include "map/PublishedName.h"
 #include "map/WrittenObjects.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
 
-#include <array>
 #include <cstdint>
 #include <new>
 
 namespace
 {
-
-constexpr std::size_t fullForm = 9;
-constexpr std::size_t formWithoutLock = 7;
-constexpr std::size_t formWithoutCount = 6;
-
-/// The fields of one line. One more than the full form is kept, enough to tell that a line has too many.
-struct SplitLine
-{
-    std::array<std::string_view, fullForm + 1> fields;
-    std::size_t count = 0;
-};
-
-/// Splits at every comma; an empty field after a final comma is not counted.
-SplitLine splitLine(std::string_view line)
-{
-    SplitLine split;
-    while (!line.empty() && split.count < split.fields.size())
-    {
-        const std::size_t comma = line.find(',');
-        split.fields[split.count++] = line.substr(0, comma);
-        line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
-    }
-    return split;
-}
-
-/// Registers of a STRING whose line does not say: the size of the database tag of that name, else one register.
-std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
-{
-    const std::optional<InternedText> name = InternedText::known(tagnameField.substr(0, tagnameField.find('.')));
-    const std::optional<int> index = name ? tags.find(*name) : std::nullopt;
-    // An empty name finds the first unused record, which sizes nothing.
-    if (!index || *index >= tags.count())
-        return 1;
-    return registersForString(tags[*index].size);
-}
-
-void readLine(std::string_view line, DefinitionPlacer& placer, const TagTable& tags)
-{
-    const SplitLine split = splitLine(line);
-    const auto& f = split.fields;
-    // What the short forms do not say is taken as unlocked and sound.
-    DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], "UNLOCKED", "OK"};
-    std::string computedCount;
-    if (split.count == fullForm)
-    {
-        fields.lock = f[7];
-        fields.status = f[8];
-    }
-    else if (split.count == formWithoutCount)
-    {
-        if (typeFromName(fields.type) == DataType::String)
-            computedCount = std::to_string(stringRegistersFromDatabase(fields.tagname, tags));
-        fields.count = computedCount;
-    }
-    else if (split.count != formWithoutLock)
-    {
-        return;
-    }
-    placer.parseDefinitionLine(fields);
-}
 
 void appendOrder(std::string& text, const RegisterEntry& head)
 {
@@ -94,9 +33,17 @@ void appendOrder(std::string& text, const RegisterEntry& head)
         text += "NONE";
 }
 
-/// Texts go out as they stand, neither quoted nor refused: a comma in a description makes ten fields of nine, and the
-/// next start drops the line. Kept so: the format has no quotes.
 void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& head)
+{
+    appendDefinitionLine(text, space, head);
+    text += nativeLineEnd;
+}
+
+} // namespace
+
+// Texts go out as they stand, neither quoted nor refused: a comma in a description makes ten fields of nine, and the
+// next start drops the line. Kept so: the format has no quotes.
+void appendDefinitionLine(std::string& text, RegisterSpace space, const RegisterEntry& head)
 {
     // For people: the reader passes it over and validates anew.
     const bool valid = head.typeValid && head.writeValid && head.tagIndex != -1;
@@ -115,10 +62,7 @@ void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& hea
     text += std::to_string(static_cast<std::int32_t>(head.registerCount));
     text += head.locked ? ",LOCKED," : ",UNLOCKED,";
     text += valid ? "OK" : "ERROR";
-    text += nativeLineEnd;
 }
-
-} // namespace
 
 bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags)
 {
@@ -127,10 +71,7 @@ bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, con
         return false;
     try
     {
-        const std::string text = decodeText(std::move(*bytes));
-        DefinitionPlacer placer(map);
-        forEachLine(text, [&](std::string_view line) { readLine(line, placer, tags); });
-        placer.placeAll();
+        readDefinition(decodeText(std::move(*bytes)), map, tags);
         return true;
     }
     catch (const std::bad_alloc&)

@@ -14,6 +14,10 @@
 ///         memory than there is, with the map empty
 bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags);
 
+/// Appends the line of an object, without a line end.
+/// @param head  the slot at which the object begins
+void appendDefinitionLine(std::string& text, RegisterSpace space, const RegisterEntry& head);
+
 /// The whole map as the text of a definition file: UTF-8 without byte-order mark, native line ends.
 /// @throws std::bad_alloc when there is not enough memory for it
 std::string definitionText(const RegisterMap& map);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 
 namespace
 {
@@ -27,16 +28,18 @@ int DefinitionObject::endAddress() const
     return static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
 }
 
-std::optional<DefinitionObject> describedObject(const DefinitionFields& fields)
+LineMeaning lineMeaning(const DefinitionFields& fields)
 {
+    const std::optional<RegisterSpace> space = spaceFromKeyword(fields.space);
+    if (!space)
+        return LineFault::UnknownSpace;
     // The write permission travels as a suffix of the name, so any other name with a dot says something unknown.
     const bool write = fields.tagname.ends_with(writeSuffix);
     if (contains(fields.tagname, ".") && !write)
-        return std::nullopt;
+        return LineFault::DottedTagname;
     const std::int32_t count = registerCountFor(fields.type, fields.count);
-    const std::optional<RegisterSpace> space = spaceFromKeyword(fields.space);
-    if (!space || count < 1)
-        return std::nullopt;
+    if (count < 1)
+        return LineFault::NoRegisters;
 
     DefinitionObject object;
     object.space = *space;

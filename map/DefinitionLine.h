@@ -3,8 +3,8 @@
 #include "map/RegisterMap.h"
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
+#include <variant>
 
 /// What one line of a definition file says.
 
@@ -44,7 +44,17 @@ struct DefinitionObject
     int endAddress() const;
 };
 
-/// Reads the fields of a line.
-/// @return nothing when the line is to be dropped: its space is unknown, its tagname holds a "." without ending in
-///         ".1", or its object has no registers
-std::optional<DefinitionObject> describedObject(const DefinitionFields& fields);
+/// Why a line describes no object; it is then dropped.
+enum class LineFault : std::uint8_t
+{
+    FieldCount,    ///< it has neither 9, 7 nor 6 fields
+    UnknownSpace,  ///< its first field names no register space
+    DottedTagname, ///< its tagname holds a "." without ending in ".1"
+    NoRegisters    ///< it is a STRING of no registers
+};
+
+/// The object that a line describes, or why it describes none.
+using LineMeaning = std::variant<DefinitionObject, LineFault>;
+
+/// Reads the fields of a line. Of several faults the first one in the order of the fields is told.
+LineMeaning lineMeaning(const DefinitionFields& fields);

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <variant>
 
 namespace
 {
@@ -42,14 +42,16 @@ void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values
 
 DefinitionPlacer::DefinitionPlacer(RegisterMap& target) : map(target) {}
 
-void DefinitionPlacer::parseDefinitionLine(const DefinitionFields& fields)
+LineMeaning DefinitionPlacer::parseDefinitionLine(const DefinitionFields& fields)
 {
-    const std::optional<DefinitionObject> object = describedObject(fields);
-    if (!object)
-        return;
-    waiting.push_back(*object);
-    if (waiting.size() == mostWaiting)
-        placeAll();
+    const LineMeaning meaning = lineMeaning(fields);
+    if (const auto* const object = std::get_if<DefinitionObject>(&meaning))
+    {
+        waiting.push_back(*object);
+        if (waiting.size() == mostWaiting)
+            placeAll();
+    }
+    return meaning;
 }
 
 void DefinitionPlacer::placeAll()

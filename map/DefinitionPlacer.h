@@ -24,7 +24,8 @@ public:
     /// name stay as the slot had them, and so does what validation found out. The map shows the object after
     /// `placeAll` at the latest.
     /// @param fields  their texts have to last until the object is placed
-    void parseDefinitionLine(const DefinitionFields& fields);
+    /// @return the object taken, or why there is none
+    LineMeaning parseDefinitionLine(const DefinitionFields& fields);
 
     /// Places the objects taken so far.
     void placeAll();

@@ -41,9 +41,9 @@ class DefinitionPlacing : public testing::Test
 protected:
     void add(const DefinitionFields& fields)
     {
-        if (const auto object = describedObject(fields))
+        const LineMeaning meaning = placer.parseDefinitionLine(fields);
+        if (const auto* const object = std::get_if<DefinitionObject>(&meaning))
             placeLiterally(oneByOne, *object);
-        placer.parseDefinitionLine(fields);
     }
 
     /// A text that lasts until the objects are placed.

@@ -1,0 +1,107 @@
+#include "map/DefinitionReader.h"
+
+#include "map/DefinitionPlacer.h"
+#include "text/Lines.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace
+{
+
+constexpr std::size_t fullForm = 9;
+constexpr std::size_t formWithoutLock = 7;
+constexpr std::size_t formWithoutCount = 6;
+
+/// The fields of one line. One more than the full form is kept, enough to tell that a line has too many.
+struct SplitLine
+{
+    std::array<std::string_view, fullForm + 1> fields;
+    std::size_t count = 0;
+};
+
+/// Splits at every comma; an empty field after a final comma is not counted.
+SplitLine splitLine(std::string_view line)
+{
+    SplitLine split;
+    while (!line.empty() && split.count < split.fields.size())
+    {
+        const std::size_t comma = line.find(',');
+        split.fields[split.count++] = line.substr(0, comma);
+        line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
+    }
+    return split;
+}
+
+/// Registers of a STRING whose line does not say: the size of the database tag of that name, else one register.
+std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
+{
+    const std::optional<InternedText> name = InternedText::known(tagnameField.substr(0, tagnameField.find('.')));
+    const std::optional<int> index = name ? tags.find(*name) : std::nullopt;
+    // An empty name finds the first unused record, which sizes nothing.
+    if (!index || *index >= tags.count())
+        return 1;
+    return registersForString(tags[*index].size);
+}
+
+/// Registers of a line of six fields, as a text; empty where its type says it.
+std::string registersNotGiven(const DefinitionFields& fields, const TagTable& tags)
+{
+    if (typeFromName(fields.type) != DataType::String)
+        return {};
+    return std::to_string(stringRegistersFromDatabase(fields.tagname, tags));
+}
+
+DefinitionFields fieldsOf(const SplitLine& split)
+{
+    const auto& f = split.fields;
+    // What the short forms do not say is taken as unlocked and sound.
+    DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], "UNLOCKED", "OK"};
+    if (split.count == fullForm)
+    {
+        fields.lock = f[7];
+        fields.status = f[8];
+    }
+    return fields;
+}
+
+bool isForm(std::size_t fieldCount)
+{
+    return fieldCount == fullForm || fieldCount == formWithoutLock || fieldCount == formWithoutCount;
+}
+
+void readLine(DefinitionFileLine& line, DefinitionPlacer& placer, const TagTable& tags, const LineObserver& observer)
+{
+    const SplitLine split = splitLine(line.text);
+    line.fieldCount = split.count;
+    line.fields = fieldsOf(split);
+    line.meaning = LineFault::FieldCount;
+    std::string computedCount;
+    if (split.count == formWithoutCount)
+    {
+        computedCount = registersNotGiven(line.fields, tags);
+        line.fields.count = computedCount;
+    }
+    if (isForm(split.count))
+        line.meaning = placer.parseDefinitionLine(line.fields);
+    if (observer)
+        observer(line);
+}
+
+} // namespace
+
+void readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer)
+{
+    DefinitionPlacer placer(map);
+    DefinitionFileLine line;
+    forEachLine(text,
+                [&](std::string_view lineText)
+                {
+                    ++line.number;
+                    line.text = lineText;
+                    readLine(line, placer, tags, observer);
+                });
+    placer.placeAll();
+}
