@@ -25,6 +25,15 @@ if(TOLVANE_SANITIZE)
     endif()
 endif()
 
+if(TOLVANE_BUILD_FUZZERS)
+    # Small tables instead of 65,536 slots and tags: ten times as many inputs in the same time. Nothing else may be built
+    # from such a library, and every input that is kept is replayed by the tests at full size.
+    if(TOLVANE_BUILD_TESTS OR TOLVANE_BUILD_UI OR TOLVANE_BUILD_BENCHMARKS)
+        message(FATAL_ERROR "Fuzzers have small tables: build them alone, as the preset \"fuzz\" does")
+    endif()
+    target_compile_definitions(project_settings INTERFACE FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
+endif()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")

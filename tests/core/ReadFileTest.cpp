@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -83,6 +84,24 @@ TEST(ReadFile, FileThatHoldsMoreThanItsSizeSaysIsReadToItsEnd)
     const auto bytes = readFile("/proc/self/stat");
     ASSERT_TRUE(bytes.has_value());
     EXPECT_TRUE(bytes->ends_with('\n'));
+}
+
+/// That file is handed out in pieces of a few lines, each a short read: the first one is not the end.
+TEST(ReadFile, ShortReadIsNotTheEnd)
+{
+    const auto bytes = readFile("/proc/self/smaps");
+    ASSERT_TRUE(bytes.has_value());
+    EXPECT_GT(bytes->size(), 8192U);
+    // Its last mapping is that of the system calls, at the top of the addresses; each mapping ends with its flags.
+    const std::size_t lastLine = bytes->rfind('\n', bytes->size() - 2) + 1;
+    EXPECT_TRUE(std::string_view(*bytes).substr(lastLine).starts_with("VmFlags:"));
+    EXPECT_NE(bytes->find("[stack]"), std::string::npos);
+}
+
+/// Nothing of this process lies at address 0, where its memory would begin as a file.
+TEST(ReadFile, FileThatOpensAndCannotBeReadGivesNothing)
+{
+    EXPECT_EQ(readFile("/proc/self/mem"), std::nullopt);
 }
 
 #endif
