@@ -16,8 +16,8 @@ public:
     explicit RescueCopy(std::filesystem::path copiesFolder);
 
     /// Writes the work, in place of what this run wrote before, as safely as the work's own file would be written.
-    /// @param workName  file name of the work: the copy's name is that name, the time and its extension. Counts at the
-    ///                  first writing
+    /// @param workName  file name of the work: the copy's name is that name, the time and its extension. Only the name
+    ///                  given at the first writing counts
     /// @return false when it could not be written; an earlier copy of this run is then as it was
     bool write(const std::filesystem::path& workName, std::string_view bytes);
 

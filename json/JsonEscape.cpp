@@ -6,8 +6,8 @@
 #include <optional>
 
 // A character beyond the first 65,536 is written as two escapes, the halves of its pair in UTF-16: "\uD83D\uDE00". Half
-// a pair alone is no character and has no UTF-8, so a text that holds one is refused as a whole rather than shown with
-// a hole in it.
+// a pair alone is not a character and has no UTF-8, so a text that holds one is refused as a whole rather than shown
+// with a hole in it.
 
 namespace
 {
@@ -37,7 +37,7 @@ std::size_t escapeLength(std::string_view text)
     if (text.size() >= 2 && plain.find(text[1]) != std::string_view::npos)
         return 2;
     const auto unit = escapedUnit(text);
-    // A second half that no first one leads is no character.
+    // A second half without a first one before it is not a character.
     if (!unit || isLowSurrogate(*unit))
         return 0;
     if (!isHighSurrogate(*unit))

@@ -23,7 +23,7 @@ public:
     bool take(JsonToken token, std::string_view tokenText);
 
     /// What was written, which is handed over.
-    /// @return nothing when the tokens so far are no whole document
+    /// @return nothing when the tokens so far are not a whole document
     std::optional<std::string> finish();
 
 private:

@@ -105,7 +105,7 @@ JsonToken JsonScanner::next()
     case '"':
         return takeString();
     default:
-        // A single quote lands here too and is no word: only double quotes are strings.
+        // A single quote lands here too and is not a word: only double quotes are strings.
         return takeWord();
     }
 }

@@ -13,7 +13,8 @@ std::optional<std::string> toStrictJson(std::string_view joined)
     for (;;)
     {
         const JsonToken token = scanner.next();
-        // The end is no token to the rewriter: whether the text may end here is another question than what may follow.
+        // The end is not a token to the rewriter: whether the text may end here is another question than what may
+        // follow.
         if (token == JsonToken::End)
             return rewriter.finish();
         if (!rewriter.take(token, scanner.strictText()))

@@ -5,9 +5,14 @@
 #include <algorithm>
 #include <optional>
 
+// The clipboard holds registers, not objects: each is a full copy of its slot, lock and validation included. When it
+// goes back only its place inside its object counts, `address` - `startAddress`; the address it once had does not. So a
+// gap that was copied is pasted as a gap, a locked register as a locked one, and a part of an object as that part.
+
 namespace
 {
 
+/// Where a paste on a row goes: a row in the middle of an object stands for the whole object, which must not be split.
 std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
 {
     if (!RegisterSlots::contains(rowAddress))
@@ -23,6 +28,7 @@ std::optional<int> headOfObjectAt(const RegisterSlots& slots, int rowAddress)
 /// True when `wanted` free slots lie from `target` on before the first locked slot.
 bool hasRoom(const RegisterSlots& slots, int target, std::size_t wanted)
 {
+    // Used slots in between take no room: they are pushed down into the very slots that are counted here.
     std::size_t room = 0;
     for (int address = target; address <= lastAddress && !slots[address].locked && room < wanted; ++address)
     {
@@ -44,6 +50,7 @@ int firstFreeSlotFrom(const RegisterSlots& slots, int address)
 
 void copyRegisters(RegisterMap& map, std::span<const int> addresses)
 {
+    // A command given without a selection must not cost the user what was copied before.
     if (addresses.empty())
         return;
     // Overlapping objects of a file can list the same registers over and over.
@@ -59,6 +66,8 @@ void copyRegisters(RegisterMap& map, std::span<const int> addresses)
 
 void eraseRegisters(RegisterMap& map, std::span<const int> addresses)
 {
+    // The list names every register of an object. The head clears them all, and erasing the others, which are free by
+    // then, changes nothing any more.
     for (const int address : addresses)
         map.eraseObject(map.currentSpace, address);
 }
@@ -73,6 +82,7 @@ std::optional<int> insertionTarget(int shownRows, std::span<const int> selectedA
 {
     if (!selectedAddresses.empty())
         return selectedAddresses.front();
+    // A view without rows has nothing to select, and only one place to begin.
     return shownRows == 0 ? std::optional(0) : std::nullopt;
 }
 
@@ -88,6 +98,7 @@ PasteResult pasteRegisters(RegisterMap& map, int rowAddress)
     const std::optional<int> target = headOfObjectAt(map.currentSlots(), rowAddress);
     if (!target)
         return PasteResult::NothingToDo;
+    // All or nothing: counted before the first slot changes, because an object cut off by a lock is worth nothing.
     if (!hasRoom(map.currentSlots(), *target, map.clipboard.size()))
         return PasteResult::NoRoom;
     insertClipboard(map, *target);

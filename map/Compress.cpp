@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+// Compressing 100..108; dots are free slots:
+//
+//   before   100: A . B B . . . C C        A stands before the first gap and stays
+//   after    100: A B B C C . . . .        the gaps are one at the end
+//
+// Nothing outside the range moves, so the free slots stay inside it too.
+
 namespace
 {
 
@@ -11,6 +18,7 @@ void moveObjectUp(RegisterSlots& slots, int head, int place)
 {
     const std::int64_t afterObject = std::int64_t{head} + slots[head].registerCount;
     const int end = static_cast<int>(std::min<std::int64_t>(afterObject, registersPerSpace));
+    // Lowest register first: `to` is below `from` all the time, so nothing is written over before it has moved.
     for (int from = head, to = place; from < end; ++from, ++to)
     {
         RegisterEntry& moved = slots[to];
@@ -32,6 +40,7 @@ void closeGaps(RegisterSlots& slots, int place, int last)
         // Read before the move, which clears the slot; a count from a file may reach beyond the space.
         const std::uint32_t length = slot.registerCount;
         moveObjectUp(slots, address, place);
+        // The object reaches to the end of the space or beyond: no place is left for another one after it.
         if (length > static_cast<std::uint32_t>(lastAddress - place))
             return;
         place += static_cast<int>(length);
@@ -44,10 +53,12 @@ CompressResult compressRegisters(RegisterSlots& slots, std::span<const int> addr
 {
     if (addresses.empty() || !RegisterSlots::contains(addresses.front()) || !RegisterSlots::contains(addresses.back()))
         return CompressResult::NothingSelected;
+    // The list is taken as the grid reports it. A selection reported from the bottom up has no range.
     if (addresses.front() > addresses.back())
         return CompressResult::Unchanged;
     const auto first = slots.begin() + addresses.front();
     const auto end = slots.begin() + addresses.back() + 1;
+    // A lock in a gap counts too: a controller relies on that register as it is.
     if (std::any_of(first, end, [](const RegisterEntry& slot) { return slot.locked; }))
         return CompressResult::Locked;
     // Objects before the first gap stand where they belong already.

@@ -2,6 +2,9 @@
 
 #include "text/Integers.h"
 
+// The names are the words of the files and of the editor's list alike. They are compared exactly: "int16" is a word as
+// unknown as "BOOL".
+
 namespace
 {
 
@@ -28,6 +31,7 @@ DataType typeFromName(std::string_view name)
 
 std::int32_t registerCountFor(std::string_view name, std::string_view lengthText)
 {
+    // Through the type rather than the name, so that an unknown name has the one register of the INT16 that it becomes.
     switch (typeFromName(name))
     {
     case DataType::Int32:
@@ -36,6 +40,7 @@ std::int32_t registerCountFor(std::string_view name, std::string_view lengthText
     case DataType::Double:
         return 4;
     case DataType::String:
+        // As C reads numbers: "3x" is 3, and a text without digits is 0 and places nothing.
         return parseInteger(lengthText);
     case DataType::Int16:
         break;

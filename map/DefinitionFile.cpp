@@ -12,6 +12,15 @@
 #include <cstdint>
 #include <new>
 
+// A line of the file, one for each object:
+//
+//   HOLDING,00100,BYTES+WORDS,FLOAT,Tank1Level.1,Level of tank 1,2,UNLOCKED,OK
+//   |       |     |           |     |            |               | |        |
+//   space   head  byte order  type  tagname      description     | lock     what validation said, for people only
+//                                                                registers, read for a STRING only
+//
+// ".1" after the tagname lets the master write. A line may end after the registers (7 fields) or the description (6).
+
 namespace
 {
 

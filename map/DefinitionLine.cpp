@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <optional>
 
+// What a line says is worked out here without a look at the map, so a line is dropped before it has changed anything.
+// The ninth field, what validation said when the line was written, is never read: the tags may be others by now.
+
 namespace
 {
 
@@ -33,7 +36,8 @@ LineMeaning lineMeaning(const DefinitionFields& fields)
     const std::optional<RegisterSpace> space = spaceFromKeyword(fields.space);
     if (!space)
         return LineFault::UnknownSpace;
-    // The write permission travels as a suffix of the name, so any other name with a dot says something unknown.
+    // The write permission travels as a suffix of the name, so any other name with a dot says something unknown. Only
+    // the last ".1" is the suffix: "Pump.1.1" is the writable tag "Pump.1".
     const bool write = fields.tagname.ends_with(writeSuffix);
     if (contains(fields.tagname, ".") && !write)
         return LineFault::DottedTagname;
@@ -46,12 +50,15 @@ LineMeaning lineMeaning(const DefinitionFields& fields)
     object.type = typeFromName(fields.type);
     object.locked = fields.lock.starts_with("LOCKED");
     object.write = write;
+    // The words count wherever they stand in the field, so their order and what joins them do not matter.
     object.SwapBytes = contains(fields.order, "BYTES");
     object.SwapWords = contains(fields.order, "WORDS");
     object.SwapLongs = contains(fields.order, "LONGS");
+    // Zeros in front do not make it octal, and a number outside the space is kept: some registers may lie inside.
     object.start = parseInteger(fields.address);
     object.count = count;
     object.tagname = fields.tagname.substr(0, fields.tagname.size() - (write ? writeSuffix.size() : 0));
+    // Looks wrong and is required: what begins with "{" is written with the description, but never read back.
     object.description = fields.description.substr(0, fields.description.find('{'));
     return object;
 }

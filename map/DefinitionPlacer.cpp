@@ -6,6 +6,17 @@
 #include <cstdint>
 #include <variant>
 
+// Three lines whose objects overlap, and what comes of them:
+//
+//   line 1   A A A A                placed last: two slots are left for it
+//   line 2       B B B B            placed second
+//   line 3           C C            placed first
+//   slots    A A B B C C
+//
+// A line does not clear the flags that it does not name, so B's slots also carry the flags of A where the two overlap.
+// The flags therefore have their own notes of what is still to be visited: a slot that has its object may still get
+// flags.
+
 namespace
 {
 

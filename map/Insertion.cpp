@@ -3,6 +3,16 @@
 #include <algorithm>
 #include <optional>
 
+// Registers x, y and z inserted at 12; dots are free slots:
+//
+//   before   12: A B . C . . D
+//   after    12: x y z A B C D        three free slots are used up, what was there keeps its order
+//                      |     |
+//             writtenEnd 15  displacedEnd 18
+//
+// The result is that of inserting one register after another, each time pushing the run that is in the way. It is
+// planned first and then moved in one go: pushing a long run anew for each register would move billions of slots.
+
 namespace
 {
 
@@ -31,6 +41,7 @@ InsertionPlan planInsertion(const RegisterSlots& slots, int target, int count)
     InsertionPlan plan{target, target};
     for (int i = 0; i < count && plan.writtenEnd <= lastAddress; ++i)
     {
+        // Once something is displaced, the slot at `writtenEnd` holds it by then, whatever stands there now.
         const bool nothingDisplaced = plan.displacedEnd == plan.writtenEnd;
         if (nothingDisplaced && !slots[plan.writtenEnd].used)
         {
@@ -51,6 +62,7 @@ InsertionPlan planInsertion(const RegisterSlots& slots, int target, int count)
 /// Gathers the used slots before `displacedEnd` at its end, in their order, until they reach down to `writtenEnd`.
 void pushDisplaced(RegisterSlots& slots, const InsertionPlan& plan)
 {
+    // From the end, where the last free slot is: so each slot is read before it is written over.
     int from = plan.displacedEnd - 1;
     for (int place = plan.displacedEnd - 1; place >= plan.writtenEnd; --place, --from)
     {
@@ -75,6 +87,7 @@ void insertRegisters(RegisterSlots& slots, std::span<const RegisterEntry> elemen
 {
     const auto wanted = static_cast<int>(std::min<std::size_t>(elements.size(), registersPerSpace));
     const int end = target + makeRoom(slots, target, wanted);
+    // The same distance for both of a register's addresses, which keeps its place inside its object.
     auto element = elements.begin();
     for (int address = target; address < end; ++address, ++element)
         slots[address] = shifted(*element, static_cast<std::uint32_t>(address) - element->address);

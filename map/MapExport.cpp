@@ -11,6 +11,14 @@
 #include <algorithm>
 #include <exception>
 
+// The same object in both formats:
+//
+//   CSV      HOLDING,00100,FLOAT,2,BW-,Tank1Level.1,Level of tank 1
+//   report   00100    FLOAT   2          BW-    Tank1Level.1          Level of tank 1
+//
+// ".1" marks a tag that the master may write, as in the definition file. Nothing is quoted in the CSV, on purpose:
+// texts stand as they are. The description comes last, where a comma in it does the least harm.
+
 namespace
 {
 
@@ -55,7 +63,8 @@ std::size_t characterCount(std::string_view utf8)
     return utf8.size() - static_cast<std::size_t>(continued);
 }
 
-/// Pads what comes after `start` with blanks to a width in characters.
+/// Pads what comes after `start` with blanks to a width in characters. Counted in bytes, every umlaut would pull the
+/// rest of its line one place to the left.
 void padColumn(std::string& text, std::size_t start, std::size_t width)
 {
     const std::size_t characters = characterCount(std::string_view(text).substr(start));
@@ -77,6 +86,7 @@ void appendReportRow(std::string& text, const RegisterEntry& slot)
     constexpr std::size_t tagnameColumn = 20;
     text += addressText(slot.address);
     text += "    ";
+    // The widths and blanks put each field under the first letter of its heading.
     appendColumn(text, typeName(slot.type), typeColumn);
     text += "  ";
     appendColumn(text, countText(slot), countColumn);
@@ -87,6 +97,7 @@ void appendReportRow(std::string& text, const RegisterEntry& slot)
     appendPublishedTagname(text, slot);
     padColumn(text, tagnameStart, tagnameColumn);
     text += "  ";
+    // The last column needs no padding, and blanks at the ends of lines would only make the file longer.
     appendLine(text, slot.description.view());
 }
 
@@ -103,6 +114,7 @@ void appendSectionHeading(std::string& text, RegisterSpace space)
 
 ExportFormat exportFormatFor(std::string_view path)
 {
+    // The end of the text, not the extension of a path: a file that is called just ".csv" has no extension.
     constexpr std::string_view ending = ".csv";
     if (path.size() < ending.size())
         return ExportFormat::Text;
@@ -134,6 +146,7 @@ std::string exportTextReport(const RegisterMap& map)
     appendLine(text, "-------------------");
     for (const RegisterSpace space : allSpaces)
     {
+        // Also for a space without objects: whoever reads the report sees that nothing was left out.
         appendSectionHeading(text, space);
         for (const RegisterEntry& slot : map.slots(space))
         {
@@ -147,11 +160,12 @@ std::string exportTextReport(const RegisterMap& map)
 bool exportMap(const RegisterMap& map, const std::filesystem::path& path)
 try
 {
+    // As UTF-8 on every system, so that the ending is looked for in one kind of text.
     const std::u8string name = path.u8string();
     const std::string_view utf8(reinterpret_cast<const char*>(name.data()), name.size());
     return writeFileSafely(path, exportFormatFor(utf8) == ExportFormat::Csv ? exportCsv(map) : exportTextReport(map));
 }
-catch (const std::exception&)
+catch (const std::exception&) // a name that has no UTF-8 form, or not enough memory for the text
 {
     return false;
 }

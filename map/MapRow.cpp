@@ -3,6 +3,16 @@
 #include "map/ErrorMarks.h"
 #include "text/Integers.h"
 
+// The three kinds of rows, here of an object that validation found a mark for:
+//
+//   *    Address  Name        Type   Size  Write  Order  Description
+//   !!   00100    Tank1Level  FLOAT  2     Read   BW-    Level of tank 1     head
+//   !!   00101    :           :      :     :      :      :                   continuation
+//        00102                                                               free slot, in the view of all addresses
+//
+// A continuation slot carries all values of its object, but shows them once only, in the row of its head. Its colours
+// are those of its own marks.
+
 namespace
 {
 
@@ -23,6 +33,7 @@ MapCell marker(const RegisterEntry& slot)
 
 MapCell access(const RegisterEntry& slot)
 {
+    // Any tag can be read, so only the permission to write can be wrong.
     if (!slot.write)
         return {"Read", MapTone::ReadOnly};
     return {"Write", slot.writeValid ? MapTone::Writable : MapTone::Error};
@@ -65,6 +76,7 @@ MapRow fillMapRow(const RegisterEntry& slot)
 {
     MapRow row;
     cell(row, MapColumn::Address) = {addressText(slot.address), slot.used ? MapTone::Sound : MapTone::Free};
+    // A slot that a move has vacated keeps its texts; being free, it shows none of them, and no lock either.
     if (!slot.used)
     {
         cell(row, MapColumn::Name).tone = MapTone::Free;
@@ -85,6 +97,7 @@ std::string mapCellNote(const RegisterEntry& slot, MapColumn column)
         return slot.locked ? "locked" : "";
     if (!slot.used || isHead(slot) || column == MapColumn::Marker)
         return {};
+    // The slot carries what its head carries, so its row can be filled as if it were the head.
     MapRow row;
     fillHead(row, slot);
     return cell(row, column).text;

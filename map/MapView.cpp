@@ -2,6 +2,9 @@
 
 #include <numeric>
 
+// A view is a list of addresses, one for each row; what a row shows is asked for when it is painted. Every command
+// finds a row's registers by its address, so commands know nothing of the view they are given in.
+
 std::string_view viewModeLabel(ViewMode mode)
 {
     switch (mode)
@@ -44,6 +47,7 @@ std::vector<int> shownAddresses(const RegisterSlots& slots, ViewMode mode)
         return addresses;
     for (int address = 0; address < RegisterSlots::size(); ++address)
     {
+        // `used` first: a slot that a move has vacated may still look like a head.
         if (slots[address].used && (mode == ViewMode::Expanded || isHead(slots[address])))
             addresses.push_back(address);
     }

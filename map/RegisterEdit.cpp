@@ -7,6 +7,14 @@
 #include <charconv>
 #include <limits>
 
+// How large the object H may become; A is another object, L a locked register, dots are free slots:
+//
+//   slots          H h . . A A . L . .
+//   freeRoom       -------                4: its own registers and the free ones right after them
+//   movableRoom    -------     -          5: with A moved down, the free one before the lock too
+//
+// What lies after the lock does not count, since nothing is moved past it.
+
 namespace
 {
 
@@ -18,6 +26,8 @@ std::int32_t saturated(std::int64_t registers)
 /// Drops the byte-order flags that mean nothing for the entry's type.
 void clearUnusableSwaps(RegisterEntry& entry)
 {
+    // A text is a row of characters, not a number: no byte order applies. The others have the parts that their
+    // registers make up: one has bytes, two have words, four have longs.
     const bool hasBytes = entry.type != DataType::String;
     const bool hasWords = hasBytes && entry.type != DataType::Int16;
     const bool hasLongs = entry.type == DataType::Double;
@@ -26,6 +36,7 @@ void clearUnusableSwaps(RegisterEntry& entry)
     entry.SwapLongs = entry.SwapLongs && hasLongs;
 }
 
+/// The object that the editor describes. It is not locked, because a locked one is not edited.
 RegisterEntry entryOf(const EditedRegister& edited)
 {
     RegisterEntry entry;
@@ -81,6 +92,8 @@ EditRoom editRoom(const RegisterSlots& slots, int head)
 
 SpaceCheck checkSpace(std::string_view lengthText, EditRoom room)
 {
+    // A field that is being typed in may be empty for a moment, which is no reason to warn. On confirmation the same
+    // text counts as 0 and is refused.
     const std::int32_t length = parseLength(lengthText).value_or(1);
     if (length > room.movableRoom)
         return SpaceCheck::TooLong;
@@ -108,6 +121,7 @@ std::optional<std::int32_t> parseLength(std::string_view text)
 
 EditConfirmation confirmEdit(std::string_view tagname, std::string_view lengthText)
 {
+    // Looks wrong and is required: without a name the edit is dropped silently, whatever else is in the fields.
     if (tagname.empty())
         return EditConfirmation::Cancel;
     return parseLength(lengthText).value_or(0) < 1 ? EditConfirmation::NoLength : EditConfirmation::Apply;
@@ -125,6 +139,7 @@ std::optional<FieldVisibility> visibilityFor(std::string_view typeName)
             .lengthField = std::nullopt, .byteOrder = true, .SwapBytes = true, .SwapWords = true, .SwapLongs = true};
     if (typeName == "STRING")
         return FieldVisibility{.lengthLabel = true, .lengthField = true};
+    // The type can be typed, so most texts on the way to a name are none: nothing flickers meanwhile.
     return std::nullopt;
 }
 

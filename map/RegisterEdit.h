@@ -11,7 +11,7 @@
 
 /// The object to edit for a row of the map grid: the head that the walk back from a register of the object reaches.
 /// @param rowAddress  address in the row
-/// @return address of the head or free slot, 0..65535; nothing when it is locked or `rowAddress` is no address
+/// @return address of the head or free slot, 0..65535; nothing when it is locked or `rowAddress` is not an address
 std::optional<int> editedHead(const RegisterSlots& slots, int rowAddress);
 
 /// What the editor shows for a head: the object's fields, or those of a free slot where no object stands, whatever a
@@ -40,11 +40,11 @@ enum class SpaceCheck
 };
 
 /// Reads the editor's length field: blanks, a sign and digits, and nothing after them.
-/// @return the number, or the nearest that 32 bits hold; nothing when the text is no whole number
+/// @return the number, or the nearest that 32 bits hold; nothing when the text is not a whole number
 std::optional<std::int32_t> parseLength(std::string_view text);
 
 /// Compares a length with the room; taking the room to the last register fits.
-/// @param lengthText  registers, as typed: a text that is no number counts as 1, negative numbers fit here and are
+/// @param lengthText  registers, as typed: a text that is not a number counts as 1, negative numbers fit here and are
 ///                    refused on confirmation
 SpaceCheck checkSpace(std::string_view lengthText, EditRoom room);
 
@@ -57,8 +57,8 @@ enum class EditConfirmation
 };
 
 /// Judges a confirmed edit.
-/// @param tagname     only the empty text is no tagname, blanks are one
-/// @param lengthText  registers, as typed: a text that is no number counts as 0
+/// @param tagname     only the empty text is not a tagname; blanks are one
+/// @param lengthText  registers, as typed: a text that is not a number counts as 0
 EditConfirmation confirmEdit(std::string_view tagname, std::string_view lengthText);
 
 /// What the editor shows for a type.

@@ -3,6 +3,17 @@
 #include <algorithm>
 #include <cstring>
 
+// An object of four registers at 10, and the free slots beside it:
+//
+//   address          9    10    11    12    13    14
+//   startAddress     9    10    10    10    10    14
+//   used             -    yes   yes   yes   yes   -
+//                  free   head  continuation slots  free
+//
+// Every slot of an object has all of its values, so each row, mark and lock can be told from one slot. The start
+// address is what makes the four belong together: it leads from any of them to the head, where the object's registers
+// begin.
+
 RegisterMap::RegisterMap() : spaces(std::make_unique<Spaces>()), snapshot(std::make_unique<Spaces>(*spaces)) {}
 
 void RegisterMap::initialise()
@@ -42,6 +53,8 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
     RegisterEntry slot = entry; // a copy, because the template may be one of the slots that are written over
     slot.used = true;
     slot.startAddress = static_cast<std::uint32_t>(start);
+    // An object that runs past the end of the space loses those registers but keeps its count: that is what its file
+    // said, and what is written back.
     const int end = static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + count, registersPerSpace));
     for (int address = start; address < end; ++address)
     {

@@ -4,6 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 
+// A shove of A at 10 down by one; L is locked, the dot is a free slot:
+//
+//   run ends at a free slot      10: A B B .      becomes      10: . A B B
+//   run ends at a lock           10: A B B L      stays, and A, B and B are stuck
+//
+// A plain move is a run of one slot. A slot that is held back stays held back for the rest of the command, since all
+// slots go the same way and no command moves a lock.
+
 SlotMover::SlotMover(RegisterSlots& space, MoveDirection direction, bool mayShove)
     : slots(space), step(direction == MoveDirection::Down ? 1 : -1), shoving(mayShove), stuck(registersPerSpace)
 {
@@ -14,6 +22,7 @@ bool SlotMover::moveSlot(int address, std::vector<int>& changed)
     if (!RegisterSlots::contains(address) || slots[address].locked)
         return false;
     const int end = endOfRun(address);
+    // A free slot that is locked holds a run back as well: it is promised to stay what it is.
     if (!RegisterSlots::contains(end) || slots[end].locked || slots[end].used)
     {
         markStuck(address, end);

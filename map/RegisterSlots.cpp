@@ -12,6 +12,7 @@ constexpr RegisterEntry anyFreeSlot = freeSlot(0);
 
 RegisterSlots::RegisterSlots()
 {
+    // Not by default: a free slot names itself, and each of them has an address of its own.
     clearSlots(*this, 0, registersPerSpace);
 }
 

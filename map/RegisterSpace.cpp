@@ -1,5 +1,8 @@
 #include "map/RegisterSpace.h"
 
+// Two names for each space: one is shown, the other stands in files. Both are written out, so that neither changes with
+// the other.
+
 namespace
 {
 
@@ -27,6 +30,7 @@ std::string_view spaceKeyword(RegisterSpace space)
 
 std::optional<RegisterSpace> spaceFromKeyword(std::string_view keyword)
 {
+    // Exactly: a word in small letters or with a blank beside it drops its line.
     for (const RegisterSpace space : allSpaces)
     {
         if (spaceKeyword(space) == keyword)

@@ -12,6 +12,8 @@ constexpr std::size_t longestSelection = 1U << 24U;
 
 std::vector<int> collectSelection(const RegisterSlots& slots, std::span<const int> rowAddresses)
 {
+    // Heads only, though an expanded view lists every register as a row: an object that is selected with all its rows
+    // must not come once for each of them.
     std::vector<int> addresses;
     for (const int row : rowAddresses)
     {

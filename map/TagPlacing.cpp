@@ -2,6 +2,15 @@
 
 #include "map/Clipboard.h"
 
+// What a tag becomes, whatever its size. INT32 and DOUBLE arise in the register editor only:
+//
+//   Integer    INT16, 1 register               byte order of whole numbers
+//   Numeric    FLOAT, 2 registers              byte order of floats
+//   String     STRING, 1 for 2 characters      none
+//
+// All three flags of a byte order are taken, those too that the type cannot use and the settings do not show: the
+// command line can set those of floats, and a later edit drops what does not fit.
+
 namespace
 {
 
@@ -63,11 +72,13 @@ std::vector<RegisterEntry> copySourceTags(const TagTable& tags, std::span<const 
     {
         if (index < 0 || index >= tags.count())
             continue;
+        // Its place in the table is known here, so the register has its tag without a validation.
         const TagRecord& tag = tags[index];
         shapeFor(entry, tag, byteOrder);
         entry.tagIndex = index;
         entry.tagname = tag.name;
         entry.description = tag.description;
+        // Each object begins at 0: the paste moves it to where it goes. A text of no characters has no register.
         for (entry.address = 0; entry.address < entry.registerCount && registers.size() < clipboardCapacity;
              ++entry.address)
             registers.push_back(entry);

@@ -5,9 +5,13 @@
 #include <string>
 #include <vector>
 
+// In two steps, so that a lack of memory leaves the map as it was: first all new names are made, beside the map, then
+// they are put into their slots. Each replacement may make a name many times as long, and 65,536 slots may bear it.
+
 namespace
 {
 
+/// A lock keeps the whole register as it is, its name included: a controller reads it already.
 std::vector<int> unlockedAmong(const RegisterSlots& slots, std::span<const int> addresses)
 {
     std::vector<int> unlocked;

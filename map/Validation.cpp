@@ -4,6 +4,17 @@
 
 #include <cstdint>
 
+// What a register needs, by the tag that its name stands for:
+//
+//   no such tag          nothing helps: the register has the mark of an unknown tag, and no other
+//   Integer, Numeric     one of the four types of numbers; which of them, and how long, is up to the user
+//   String               STRING, with two characters a register enough for the tag's size
+//   any other type       nothing
+//   written by master    a tag of at least two elements
+//
+// A register without a name finds the first unused record of the table, whose name is empty too. Looks wrong and is
+// required: such a register has no mark.
+
 namespace
 {
 
@@ -40,6 +51,7 @@ bool typeSuits(const RegisterEntry& slot, const TagRecord& tag)
         return slot.type == DataType::String && std::uint64_t{slot.registerCount} * 2 >= tag.size;
     case TagType::Integer:
     case TagType::Numeric:
+        // The types of numbers have the codes before that of STRING.
         return slot.type < DataType::String;
     }
     return true;
@@ -78,6 +90,7 @@ void validateMap(RegisterMap& map, const TagTable& tags)
 
 int countErrors(const RegisterMap& map)
 {
+    // By register, not by object: an INT32 whose tag is unknown counts twice, as its two rows show it.
     int count = 0;
     for (const RegisterSpace space : allSpaces)
     {

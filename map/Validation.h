@@ -5,7 +5,7 @@
 
 /// Recomputes `tagIndex`, `typeValid` and `writeValid` of every used slot from the tag table.
 ///
-/// Nothing else is changed and nothing else is looked at: locks, overlaps, spaces and byte order are no errors.
+/// Nothing else is changed and nothing else is looked at: locks, overlaps, spaces and byte order are not errors.
 /// Validation runs only when a command asks for it; the marks stay as they are in between.
 void validateMap(RegisterMap& map, const TagTable& tags);
 

@@ -2,6 +2,9 @@
 
 #include <cstddef>
 
+// The texts of a full map have megabytes. Their memory is asked for once and generously: growing would copy what is
+// there again and again, and would need old and new side by side.
+
 void reserveLines(std::string& text, const RegisterMap& map)
 {
     constexpr std::size_t headings = 1024; // of the text report, which has the longest ones

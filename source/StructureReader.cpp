@@ -47,7 +47,7 @@ void StructureReader::member(std::string_view name, std::string_view content)
     const auto index = static_cast<std::size_t>(openNodes.back());
     takeMember(members, nodes[index], name, content);
     // Whether it is there counts, not what it is: null makes a root without text. Further down a node without the
-    // member is no failure either, it only has no text.
+    // member is not a failure either: it only has no text.
     if (name == lable && index == 0)
         rootHasLable = true;
     // Nodes stand in the order of the file, so whatever follows this one now came from an earlier list of children.

@@ -16,7 +16,7 @@ struct TagGroup
     std::uint32_t mask = 0;  ///< bits that mark a member
 };
 
-/// Marks groups and tags that are no part of the database; only exactly this value does, not the bit.
+/// Marks groups and tags that are not part of the database; only exactly this value does, not the bit.
 constexpr std::uint32_t reservedMask = 0x200000;
 
 /// Groups that tags can be filtered by; later ones are listed in the FLAGS column only.

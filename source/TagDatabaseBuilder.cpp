@@ -97,7 +97,7 @@ void TagDatabaseBuilder::rootMember(Kind kind)
     open(kind, Kind::Array);
 }
 
-/// Begins an element of a list. One that is no object has no members: it is complete at once.
+/// Begins an element of a list. One that is not an object has no members: it is complete at once.
 void TagDatabaseBuilder::listElement(Kind kind)
 {
     if (!list->beginElement())

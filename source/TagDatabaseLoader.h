@@ -21,7 +21,7 @@ enum class LoadResult
 /// The first failure ends the load, and what was built before it stays: nothing is changed by `FileNotFound` and
 /// `BadJson`; the groups are those of the file from `StructureMissing` on, the tree is from `DatabaseMissing` on.
 /// Tags beyond 65,536 and structure nodes more than 1,000 levels below the root are left out.
-/// @param path      any path; whatever is no readable regular file is not found
+/// @param path      any path; anything but a readable regular file counts as not found
 /// @param database  receives what the file holds
 LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& database);
 

@@ -19,7 +19,7 @@ struct TagRecord
     InternedText description;        ///< free text
     TagType type = TagType::Integer; ///< type code
     std::uint8_t size = 0;           ///< characters of a String tag; the low 8 bits of the database's figure
-    std::int32_t elements = 0;       ///< a tag takes writes from the master with 2 or more
+    std::int32_t elements = 0;       ///< the master can write a tag that has 2 or more
     std::int32_t attributes = 0;     ///< kept as read
     std::uint32_t groups = 0;        ///< bit set of the groups that the tag belongs to
 };

@@ -116,8 +116,8 @@ std::string decodeUtf8(std::string bytes)
     return text;
 }
 
-/// Characters beyond the first 65,536 come as two units. Half a pair that stands alone is no character, as is a byte
-/// left over when the file was cut off: each becomes the replacement character.
+/// Characters beyond the first 65,536 come as two units. Half a pair that stands alone is not a character,
+/// and neither is a byte left over when the file was cut off: each becomes the replacement character.
 std::string decodeUtf16(std::string_view bytes, bool lowestByteFirst)
 {
     UnitReader units(bytes, 2, lowestByteFirst);
@@ -188,7 +188,7 @@ std::string decodeText(std::string bytes)
         return bytes;
     }
 
-    // The mark is no part of the text: as a character it would be the first one of a key or a keyword.
+    // The mark is not part of the text: as a character it would be the first one of a key or a keyword.
     bytes.erase(0, mark->bytes.size());
     switch (mark->encoding)
     {

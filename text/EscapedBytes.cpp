@@ -4,7 +4,7 @@
 
 // A file name that is not UTF-8 on its way through the toolkit and back:
 //
-//   name on the disk     T  E4  N  K                 E4 alone is no UTF-8
+//   name on the disk     T  E4  N  K                 E4 alone is not UTF-8
 //   escaped              T  U+10FFE4  N  K           well-formed, so the toolkit takes it
 //   unescaped            T  E4  N  K                 the same file is opened
 //

@@ -68,7 +68,7 @@ std::uint32_t parseHexadecimal(std::string_view text)
 
 std::string addressText(std::uint32_t address)
 {
-    // Longer numbers are not cut. They are no addresses, but what a file gave for one.
+    // Longer numbers are not cut. They are not addresses, but what a file gave for one.
     constexpr std::size_t width = 5;
     std::string digits = std::to_string(address);
     if (digits.size() < width)

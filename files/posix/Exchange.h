@@ -18,11 +18,11 @@ enum class Exchange
 enum class Access
 {
     MustBeKept,    ///< the exchange is refused
-    AsFarAsAllowed ///< it may be opened by its owner alone
+    AsFarAsAllowed ///< only its owner may open it
 };
 
 /// Writes `bytes` into a fresh file beside `target`, flushes it to the disk and lets it take the name in one step.
-/// @param target  no symbolic link
+/// @param target  not a symbolic link
 /// @param old     the file whose access the fresh one gets, most often the one to be replaced; null gives it that of
 ///                any new file
 /// @return anything but Done: the target is as it was and no other file was left

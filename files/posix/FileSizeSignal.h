@@ -3,7 +3,8 @@
 #include <csignal>
 
 /// Keeps the signal by which the system tells of a file-size limit from ending the program: within its scope, a write
-/// beyond the limit only fails. It holds the calling thread's signals alone, so that threads may write at once.
+/// beyond the limit only fails. It holds back the signals of the calling thread only, so several threads may write at
+/// the same time.
 class FileSizeSignalHeld
 {
 public:

@@ -15,7 +15,7 @@ public:
     };
 
     /// Makes an empty file, open for writing.
-    /// @param target  the name that the file is to take; no symbolic link
+    /// @param target  the name that the file is to take; not a symbolic link
     FreshFile(FileSystemCalls& systemCalls, std::filesystem::path target, Kind kind, mode_t mode);
     ~FreshFile();
     FreshFile(const FreshFile&) = delete;

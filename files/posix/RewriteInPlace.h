@@ -8,6 +8,6 @@
 ///
 /// The old contents are kept in memory meanwhile and put back when the disk fails. Only a file that may not be read, a
 /// disk that fails for good, a power cut or the end of the program can leave a mixture.
-/// @param descriptor  of a regular file, open for writing and best for reading too
+/// @param descriptor  of a regular file, open for writing, and preferably for reading too
 /// @return false when the file does not hold the new bytes
 bool rewriteInPlace(FileSystemCalls& calls, int descriptor, std::string_view bytes);
