@@ -3,6 +3,13 @@
 #include "files/ReadFile.h"
 #include "text/Lines.h"
 
+// A key file, and what counts in it when "Path" is asked for:
+//
+//   Path=C:\Suite\          the value, backslash included: nothing is escaped, so any folder can be named
+//   Path=D:\Suite\          nothing, since the first entry of a name holds
+//   [Recent]                from here on entries belong to a group
+//   Path=E:\Suite\          nothing
+
 namespace
 {
 
@@ -13,6 +20,7 @@ std::string_view valueOf(std::string_view text, std::string_view name)
     forEachLine(text,
                 [&](std::string_view line)
                 {
+                    // Groups do not end, they are only followed by others: after the first one no entry is outside.
                     insideGroup = insideGroup || line.starts_with('[');
                     if (!insideGroup && !value && line.starts_with(name) && line.substr(name.size()).starts_with('='))
                         value = line.substr(name.size() + 1);

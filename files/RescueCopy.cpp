@@ -12,6 +12,14 @@
 
 namespace fs = std::filesystem;
 
+// The copies in their folder, one for each run that has rescued something:
+//
+//   plant-20260412-091503.csv      work of one morning
+//   plant-20260412-091503-2.csv    of another window, in the same second
+//   map-20260413-170000            work that has no file of its own yet
+//
+// Within a run the name stays, so that each writing takes the place of the one before.
+
 namespace
 {
 
@@ -69,6 +77,7 @@ void removeOldest(const fs::path& folder)
     }
     if (copies.size() <= RescueCopy::keptCopies)
         return;
+    // By the time of writing, not by name: names begin with that of the work.
     std::sort(copies.begin(), copies.end());
     copies.resize(copies.size() - RescueCopy::keptCopies);
     for (const auto& [time, path] : copies)
@@ -87,8 +96,10 @@ try
     const fs::path target = copy.empty() ? freeName(folder, workName.filename()) : copy;
     if (!writeFileSafely(target, bytes))
         return false;
+    // Only now: were it noted before, a failure would leave a name under which there is nothing.
     copy = target;
     fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write);
+    // After the writing, so that a full disk costs no older copy. This one is the youngest and stays.
     removeOldest(folder);
     return true;
 }

@@ -10,6 +10,14 @@
 
 namespace fs = std::filesystem;
 
+// The name of a file in the making, beside "plant.csv":
+//
+//   .saving-3f9a77c01b2e4d58-00000000075bcd15
+//           hash of "plant.csv"  number of its own
+//
+// The hash stands for the target's name because that may take up all the length a name may have. With it a save finds
+// the strays of its own target and leaves those of others, which may be in the making just now.
+
 namespace
 {
 
@@ -34,6 +42,7 @@ std::string strayPrefix(const fs::path& target)
 
 bool isStray(const fs::path::string_type& name, const std::string& prefix)
 {
+    // In full, down to the last digit: what is found so is deleted, and the folder is the user's.
     const auto isDigit = [](fs::path::value_type c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); };
     return name.size() == prefix.size() + static_cast<std::size_t>(digitCount) &&
            std::equal(prefix.begin(), prefix.end(), name.begin()) &&
@@ -51,6 +60,7 @@ std::vector<fs::path> straysOf(const fs::path& target)
 {
     const std::string prefix = strayPrefix(target);
     std::vector<fs::path> strays;
+    // A folder that may be written but not listed keeps its strays. That must not stop a save.
     std::error_code error;
     for (fs::directory_iterator entry(folderOf(target), error); !error && entry != fs::directory_iterator();
          entry.increment(error))

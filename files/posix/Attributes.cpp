@@ -8,6 +8,10 @@
 #include <string_view>
 #include <vector>
 
+// Extended attributes are named values that a file carries beside its contents: access lists, labels of security
+// modules, notes of the desktop. A fresh file has none of them but those that the system or the folder gives it, so
+// without these functions a save would strip the file of them without a word.
+
 namespace
 {
 
@@ -18,6 +22,7 @@ constexpr std::size_t largest = 65536;
 
 std::vector<std::string> splitNames(std::string_view list)
 {
+    // All names come in one piece, each with a zero byte after it.
     std::vector<std::string> names;
     while (!list.empty())
     {
@@ -45,6 +50,7 @@ std::optional<std::string> attribute(FileSystemCalls& calls, int descriptor, con
     return length < 0 ? std::nullopt : std::optional(std::string(value.data(), static_cast<std::size_t>(length)));
 }
 
+/// True for checksums and rights that were given to the old bytes: on the new ones they would be wrong.
 bool belongsToContents(const std::string& name)
 {
     return name == "security.ima" || name == "security.evm" || name == "security.capability";
@@ -58,6 +64,7 @@ bool carryAttribute(FileSystemCalls& calls, int from, int to, const std::string&
                      calls.fsetxattr(to, name.c_str(), value->data(), value->size(), 0) == 0);
 }
 
+/// A folder may have a list that every new file in it is given, and that lets in people whom the old file kept out.
 bool dropInheritedAccessList(FileSystemCalls& calls, int descriptor)
 {
     return calls.fremovexattr(descriptor, accessList) == 0 || errno == ENODATA || errno == ENOTSUP;

@@ -7,6 +7,17 @@
 
 namespace fs = std::filesystem;
 
+// What a power cut leaves after each step:
+//
+//   the fresh file is made          the old contents; an unnamed fresh file is gone, a named one is a stray
+//   it has the old one's access     the same
+//   it is written and flushed       the same, though the new contents are on the disk
+//   it takes the name               the old contents or the new, whole in both cases
+//   the folder is flushed           the new contents
+//
+// The flush before the name is what it all depends on. Without it some file systems put the name on the disk first, and
+// a power cut leaves an empty file under it.
+
 namespace
 {
 
@@ -29,6 +40,7 @@ Exchange exchangeThrough(FreshFile::Kind kind, FileSystemCalls& calls, const fs:
     const bool accessKept = old == nullptr || takeOverAccess(calls, fresh.descriptor(), *old);
     if (!accessKept && access == Access::MustBeKept)
         return Exchange::Refused;
+    // Not "refused", which would have the old file rewritten in place: a disk that is full or fails is no better there.
     if (!writeAll(calls, fresh.descriptor(), bytes) || calls.fsync(fresh.descriptor()) != 0)
         return Exchange::Failed;
     if (!fresh.takeName())
@@ -42,6 +54,8 @@ Exchange exchangeThrough(FreshFile::Kind kind, FileSystemCalls& calls, const fs:
 Exchange exchangeFile(FileSystemCalls& calls, const fs::path& target, const OldFile* old, std::string_view bytes,
                       Access access)
 {
+    // A file without a name leaves no stray, however the program ends. Network and older file systems have no such
+    // files, and naming one takes /proc, which a container need not have.
     const Exchange unnamed = exchangeThrough(FreshFile::Kind::Unnamed, calls, target, old, bytes, access);
     if (unnamed != Exchange::Refused)
         return unnamed;

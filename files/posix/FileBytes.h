@@ -10,6 +10,6 @@
 /// @return nothing when the file may not be read or the disk fails; `errno` says which
 std::optional<std::string> readAll(FileSystemCalls& calls, int descriptor);
 
-/// Writes all of `bytes` from the start of an open file on. What the file holds behind them stays.
+/// Writes all of `bytes` from the start of an open file on. What the file holds after them stays.
 /// @return false when some of them could not be written
 bool writeAll(FileSystemCalls& calls, int descriptor, std::string_view bytes);

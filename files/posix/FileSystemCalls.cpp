@@ -6,6 +6,11 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+// One line each, on purpose: nothing is tried again, changed or understood here. What a failure means and whether a
+// call is repeated after a signal is up to the callers, so a test that stands in for the system sees all that they do.
+//
+// `posixFallocate` is the odd one: it answers the error itself and leaves `errno` alone, as the system's call does.
+
 int FileSystemCalls::open(const char* path, int flags, mode_t mode)
 {
     return ::open(path, flags, mode);

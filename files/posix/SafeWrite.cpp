@@ -13,6 +13,16 @@
 
 namespace fs = std::filesystem;
 
+// How a file is written:
+//
+//   nothing of that name       a fresh file takes the name; where a link leads to nothing, the name at its end
+//   one name                   a fresh file takes its place; rewritten in place where the folder refuses that
+//   several names              rewritten in place: a fresh file would leave the old contents to the other names
+//   not a regular file         not at all: nothing can be put back into a pipe
+//   write-protected            not at all, although its folder might let it be replaced
+//
+// Opening the old file for writing is what tells the last case: a fresh file needs the right to the folder only.
+
 namespace
 {
 
@@ -25,6 +35,7 @@ Exchange exchangeLinkedFile(FileSystemCalls& calls, const fs::path& path, const 
     const std::optional<fs::path> target = linkedFile(calls, path);
     if (!target)
         return Exchange::Refused;
+    // Before the fresh file is made: strays of a large map may have taken the room that it needs.
     clearStrays(calls, *target);
     const bool hasOtherNames = old != nullptr && old->state.st_nlink > 1;
     return hasOtherNames ? Exchange::Refused : exchangeFile(calls, *target, old, bytes);
@@ -33,6 +44,8 @@ Exchange exchangeLinkedFile(FileSystemCalls& calls, const fs::path& path, const 
 /// False when the name has gone, or leads to another file now.
 bool stillLeadsTo(FileSystemCalls& calls, const fs::path& path, const struct stat& file)
 {
+    // Somebody may have put another file in its place while it was rewritten. The bytes are then in a file that nobody
+    // finds again, and saying that they are saved would be wrong.
     struct stat now = {};
     if (calls.stat(path.c_str(), &now) != 0)
         return errno != ENOENT;
@@ -61,6 +74,7 @@ try
         return replaceContents(calls, path, old.get(), bytes);
     if (errno == ENOENT)
         return exchangeLinkedFile(calls, path, nullptr, bytes) == Exchange::Done;
+    // A file that may not be read may still be saved to, but there is nothing to put back when that fails.
     const OpenFile writeOnly(calls, path, O_WRONLY | existing);
     return writeOnly.isOpen() && replaceContents(calls, path, writeOnly.get(), bytes);
 }

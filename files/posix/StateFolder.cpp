@@ -2,6 +2,9 @@
 
 #include <cstdlib>
 
+// Where desktops agree to keep what a program needs to go on where it stopped. It is neither a setting nor a document
+// of the user's, and losing it costs no more than a copy.
+
 namespace
 {
 

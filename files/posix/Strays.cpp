@@ -11,9 +11,13 @@
 
 namespace fs = std::filesystem;
 
+// A stray and a file in the making look alike. What tells them apart is a lock on the open file, which ends with the
+// program that holds it, however that ends: nobody can forget to take it back.
+
 namespace
 {
 
+/// Asks for the lock without waiting for it.
 bool reserve(FileSystemCalls& calls, int descriptor)
 {
     return calls.flock(descriptor, LOCK_EX | LOCK_NB) == 0;
@@ -21,6 +25,7 @@ bool reserve(FileSystemCalls& calls, int descriptor)
 
 void removeUnlessInUse(FileSystemCalls& calls, const fs::path& stray)
 {
+    // Whatever else has got such a name is neither followed nor waited for, be it a link or a pipe.
     const OpenFile file(calls, stray, O_WRONLY | O_NOFOLLOW | O_NONBLOCK);
     if (file.isOpen() && reserve(calls, file.get()))
         calls.unlink(stray.c_str());
@@ -38,6 +43,8 @@ fs::path freshName(const fs::path& target)
 
 void markInUse(FileSystemCalls& calls, int descriptor)
 {
+    // Where a file system has no locks this fails, but so does the lock that clearing asks for: strays stay there, and
+    // no file in the making is lost.
     reserve(calls, descriptor);
 }
 

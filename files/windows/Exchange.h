@@ -14,7 +14,7 @@ enum class Exchange
 /// Writes `bytes` into a fresh file beside `target`, flushes it to the disk and lets it take the name.
 ///
 /// A file that has the name already keeps its attributes and access rights. It stands under a name of its own, the
-/// target's with ".old-" and a number behind it, until the fresh one has taken its place, and is put back otherwise.
+/// target's with ".old-" and a number after it, until the fresh one has taken its place, and is put back otherwise.
 /// @return anything but Done: the target is as it was
 Exchange exchangeFile(const std::filesystem::path& target, bool targetExists, std::string_view bytes);
 

@@ -8,6 +8,17 @@
 
 namespace fs = std::filesystem;
 
+// What is in the folder after each step of an exchange:
+//
+//   the fresh file is written        plant.csv (old)         .saving-... (new, half of it)
+//   it is flushed and closed         plant.csv (old)         .saving-... (new)
+//   the exchange is half-way         plant.csv.old-...       .saving-... (new)
+//   it is done                       plant.csv.old-...       plant.csv (new)
+//   the old file is deleted                                  plant.csv (new)
+//
+// The system's exchange is not one step as a rename is elsewhere: for a moment nothing has the name. That is why the
+// old file gets a name by which its owner knows it again, and why it is put back when the exchange stops there.
+
 namespace
 {
 
@@ -78,6 +89,7 @@ void clearStrays(const fs::path& target)
 
 Exchange exchangeFile(const fs::path& target, bool targetExists, std::string_view bytes)
 {
+    // First, as strays of a large map may have taken the room that the fresh file needs.
     clearStrays(target);
     const fs::path fresh = strayName(target, uniqueNumber());
     const RemovedAtEnd removed(fresh);

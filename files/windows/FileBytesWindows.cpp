@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 
+// The old bytes are kept in memory while a file is rewritten, and growth is asked for before the first of them is
+// written over. A full disk therefore refuses while the file is whole; only one that fails has to be put right
+// afterwards.
+
 namespace
 {
 
@@ -15,11 +19,13 @@ bool moveTo(HANDLE file, std::size_t position)
 
 bool writeAll(HANDLE file, std::string_view bytes)
 {
+    // The system counts with 32 bits.
     constexpr std::size_t longestPiece = 1U << 30U;
     while (!bytes.empty())
     {
         DWORD written = 0;
         const auto piece = static_cast<DWORD>(std::min(bytes.size(), longestPiece));
+        // No bytes and no error would go on for ever.
         if (::WriteFile(file, bytes.data(), piece, &written, nullptr) == 0 || written == 0)
             return false;
         bytes.remove_prefix(written);
@@ -54,6 +60,8 @@ std::optional<std::string> readAll(HANDLE file)
 
 bool overwrite(HANDLE file, std::string_view bytes)
 {
+    // From the start, wherever reading has stopped. The end is set after the writing: a file that shrinks keeps its old
+    // bytes until the new ones are there.
     return moveTo(file, 0) && writeAll(file, bytes) && resize(file, bytes.size()) && ::FlushFileBuffers(file) != 0;
 }
 
@@ -68,6 +76,7 @@ bool rewriteInPlace(const std::filesystem::path& path, std::string_view bytes)
     const bool hasRoom = bytes.size() <= oldBytes->size() || resize(file.get(), bytes.size());
     if (hasRoom && overwrite(file.get(), bytes))
         return true;
+    // Whether this succeeds is not asked: there is nothing else left to try, and the save has failed either way.
     overwrite(file.get(), *oldBytes);
     return false;
 }

@@ -4,6 +4,8 @@
 
 std::optional<std::filesystem::path> linkedFile(const FileHandle& file)
 {
+    // The longest path that the system has, and its zero character. The answer begins with "\\?\", by which later calls
+    // take paths of that length too.
     constexpr std::size_t longestPath = 32768;
     std::wstring name(longestPath, L'\0');
     const DWORD length =

@@ -8,6 +8,13 @@
 
 namespace fs = std::filesystem;
 
+// How a file is written:
+//
+//   nothing of that name       a fresh file takes the name
+//   one name                   a fresh file takes its place; rewritten in place where that is refused
+//   several names              rewritten in place: a fresh file would leave the old contents to the other names
+//   a folder or a device, or write-protected      not at all
+
 namespace
 {
 
@@ -32,11 +39,13 @@ bool writeFileSafely(const fs::path& path, std::string_view bytes)
 try
 {
     FileHandle old(path, GENERIC_WRITE, OPEN_EXISTING);
+    // Only where the name alone is missing: a path that is missing, or a file that is refused, is a failure.
     if (!old.isOpen())
         return ::GetLastError() == ERROR_FILE_NOT_FOUND && exchangeFile(path, false, bytes) == Exchange::Done;
     const BY_HANDLE_FILE_INFORMATION information = informationOf(old);
     if (!mayBeWritten(old, information))
         return false;
+    // Opening has followed the links already; what is written is the file at their end, and the links stay.
     const fs::path target = linkedFile(old).value_or(path);
     old.close(); // an open file is not exchanged
     const bool hasOtherNames = information.nNumberOfLinks > 1;
