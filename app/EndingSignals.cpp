@@ -1,3 +1,6 @@
+// Ends that pass the window by: the session ends or the terminal is closed (SIGTERM, SIGHUP), Ctrl+C (SIGINT), the X
+// server is gone. None of them runs a destructor, so what has to be kept is kept here.
+
 #include "app/EndingSignals.h"
 
 #include <X11/Xlib.h>
@@ -18,6 +21,7 @@ std::function<void()>& pendingCall()
 
 void callOnce()
 {
+    // Taken out before it runs: a second signal or a lost display during the call must not start it again.
     if (const auto call = std::exchange(pendingCall(), nullptr))
         call();
 }
@@ -49,6 +53,7 @@ void callBeforeEnding(std::function<void()> beforeEnd)
     g_unix_signal_add(SIGTERM, endBySignal<SIGTERM>, nullptr);
     g_unix_signal_add(SIGINT, endBySignal<SIGINT>, nullptr);
     g_unix_signal_add(SIGHUP, endBySignal<SIGHUP>, nullptr);
-    // GTK 3 ends the program at once when the connection to the X server breaks.
+    // GTK 3.24 ends the program at once, from inside Xlib, when the connection to the X server breaks. Its handler is
+    // kept and called last, for the words that it prints and the exit code that it sets.
     toolkitsDisplayHandler = XSetIOErrorHandler(endWithoutDisplay);
 }

@@ -1,3 +1,6 @@
+// The installation of the suite where there is no registry. The registry key becomes a file of that name, its value
+// "Path" an entry in it. A file in the user's own folder comes before those of the machine.
+
 #include "app/Installation.h"
 
 #include "files/KeyFile.h"
@@ -11,6 +14,7 @@ namespace
 
 wxString environmentOr(const wxString& name, const wxString& otherwise)
 {
+    // A variable that is set to nothing counts as not set; desktops agree on that for these folders.
     wxString value;
     return wxGetEnv(name, &value) && !value.empty() ? value : otherwise;
 }
@@ -34,6 +38,8 @@ std::optional<wxString> findInstallation()
         const wxString path = folder + "/BELTHORNE LTD/Varnok Software Suite.conf";
         // Not wxFileConfig: it takes backslashes and quotes for its own signs, and tells the user about what it
         // does not understand.
+        // The file alone says that the suite is installed. Without a "Path" its path is empty, as with an empty
+        // registry value.
         if (const auto suitePath = readKeyFileEntry(toPath(path), "Path"))
             return wxString(suitePath->c_str(), wxConvFile);
     }

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-/// The toolkit decodes arguments by the locale and loses what is no text in it. A path is whatever bytes the system
-/// gave, so they are handed over as text from which the very bytes can be had again.
+/// Toolkit 3.2 decodes arguments by the locale and loses the bytes that are no text in it. A path may hold any bytes,
+/// so they are handed over as text from which the same bytes can be made again.
 int main(int argc, char** argv)
 {
     std::vector<std::wstring> words;
@@ -20,6 +20,7 @@ int main(int argc, char** argv)
     pointers.reserve(words.size() + 1);
     for (std::wstring& word : words)
         pointers.push_back(word.data());
+    // The toolkit walks to the end of the list, as it may in argv.
     pointers.push_back(nullptr);
     return wxEntry(argc, pointers.data());
 }

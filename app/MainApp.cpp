@@ -1,3 +1,6 @@
+// The order of a start: command line, look of the desktop, installation, files, window. Each step that has something to
+// say shows its message before the next one begins. The window comes last, so it is never seen half filled.
+
 #include "app/MainApp.h"
 
 #include "app/EndingSignals.h"
@@ -31,9 +34,11 @@ bool MainApp::OnInit()
 {
     // A wrong command line shows its usage and opens the window all the same, with the values at their defaults.
     wxApp::OnInit();
+    // Before any window: their icons and buttons are PNG pictures.
     wxInitAllImageHandlers();
     desktop::preferDark();
     desktop::drawControlsPlainly();
+    // The program comes with the suite and is not meant to run without it. An empty path is enough: only Help uses it.
     const std::optional<wxString> suitePath = findInstallation();
     if (!suitePath)
     {
@@ -44,6 +49,7 @@ bool MainApp::OnInit()
     }
     document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);
     openDocument(*document);
+    // After loading: what has just been read is on the disk and needs no copy.
     rescue.emplace(*document, rescueFolder());
     callBeforeEnding([this] { rescue->finish(); });
 
@@ -51,19 +57,21 @@ bool MainApp::OnInit()
     frame->SetTitle("Modbus Map Editor");
     frame->Maximize();
     frame->Show();
+    // Only a window that is shown knows its size, from which the sash and the last columns get theirs.
     frame->settleLayout();
     return true;
 }
 
 int MainApp::OnRun()
 {
-    // The user has been told why; whatever started the program is not to take that for a crash, as it would take an
-    // OnInit that fails (toolkit 3.2 then ends with -1).
+    // The user has been told why. The exit code must not look like a crash to a script that started the program; after
+    // an OnInit that fails toolkit 3.2 would end with -1.
     return document ? wxApp::OnRun() : EXIT_SUCCESS;
 }
 
 int MainApp::OnExit()
 {
+    // The window is gone by now, the document is still there.
     if (rescue)
         rescue->finish();
     return wxApp::OnExit();
@@ -71,12 +79,14 @@ int MainApp::OnExit()
 
 void MainApp::OnInitCmdLine(wxCmdLineParser& parser)
 {
+    // Before the toolkit adds help and verbose: the usage message has them in this order.
     describeOptions(parser);
     wxApp::OnInitCmdLine(parser);
 }
 
 bool MainApp::OnCmdLineParsed(wxCmdLineParser& parser)
 {
+    // The toolkit's own part is left out; it would only make its log talkative.
     takeOptions(parser, startupValues);
     return true;
 }

@@ -1,4 +1,4 @@
-// Scrolling a grid by rows. The toolkit scrolls as little as it takes; after a search or a change of space an address
+// Scrolling a grid by rows. The toolkit scrolls as little as it takes; after a change of space an address
 // is to be the first one seen, and after an exchange of rows the view is to stay where it was.
 
 #include "ui/grid/GridScrolling.h"
