@@ -1,3 +1,6 @@
+// The picture behind the " ? " buttons. It shows what each swap does to the bytes of a value, which is hard to say in
+// words and easy to get wrong: a wrong byte order shows only when the device delivers nonsense.
+
 #include "ui/ByteSwapHelp.h"
 
 #include "ui/NamedImages.h"
@@ -15,6 +18,7 @@ constexpr int edgeGap = 40;
 
 void moveToRightEdge(wxWindow& window)
 {
+    // On the primary display: the picture is meant to stand beside the dialog, and dialogs open in the middle.
     const wxRect display = wxDisplay().GetGeometry();
     const wxSize size = window.GetSize();
     window.Move(display.x + display.width - size.x - edgeGap, display.y + (display.height - size.y) / 2);
@@ -24,6 +28,7 @@ void moveToRightEdge(wxWindow& window)
 
 void showByteSwapHelp()
 {
+    // Without a parent: two dialogs have the button, and the picture must not cover either.
     wxDialog dialog(nullptr, wxID_ANY, "Help", wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE);
     dialog.SetBackgroundColour(theme::colour(theme::dialogBackground));
     const auto* const picture = new wxStaticBitmap(&dialog, wxID_ANY, namedImage("png_help_byteswap"));

@@ -1,3 +1,9 @@
+// The table of commands, and the three ways in: button, menu entry, key.
+//
+// Rows stand in the order of their buttons; a menu has an order of its own. The identifiers of menu entries are fixed
+// numbers, 6003 to 6012, and follow no order. Space buttons are not in the table: they have neither entry nor key, and
+// one of them always looks pressed.
+
 #include "ui/CommandTable.h"
 
 #include "ui/MainFrame.h"
@@ -53,6 +59,10 @@ constexpr Command keyOnly(CommandGrid grid, CommandKey key, void (*operation)(Ma
 
 // "Exit without saving" is what the button has always said; it does ask, and saves.
 // "Append" shows a key in the menu that no grid takes: its row has none.
+// Of the modifiers only Ctrl counts. The plus and minus keys stand for addresses, so plus moves down the list; "=" is
+// plus without Shift on the keyboards that the program is used with.
+//
+// The purge has no menu entry: a menu is about the selection, and the purge works on all four spaces.
 const Command commands[] = {
     globalButton(ButtonGap::None, "png_tool_export", "Export map to text file", run<&MainFrame::exportMap>),
     globalButton(ButtonGap::None, "png_tool_settings", "Settings and Defaults", run<&MainFrame::editSettings>),
@@ -111,6 +121,7 @@ bool isPressed(const CommandKey& key, const wxKeyEvent& event)
 /// The commands of a grid's context menu, in the menu's order.
 std::vector<const Command*> menuCommands(CommandGrid grid)
 {
+    // Sorted anew for each opening; there are ten entries at most.
     std::vector<const Command*> listed;
     for (const Command& command : commands)
     {
@@ -134,6 +145,7 @@ std::span<const Command> allCommands()
 
 const Command* commandForKey(CommandGrid grid, const wxKeyEvent& event)
 {
+    // The first row that takes the key is the only one: no key stands twice for the same grid.
     const auto* const found = std::find_if(
         std::begin(commands), std::end(commands),
         [&](const Command& command)
@@ -150,9 +162,11 @@ std::unique_ptr<wxMenu> contextMenu(CommandGrid grid)
     int section = 1;
     for (const Command* const command : menuCommands(grid))
     {
+        // Sections count from 1, so no separator stands before the first entry.
         if (command->menu.section != section)
             menu->AppendSeparator();
         section = command->menu.section;
+        // What follows the tab is only shown: the toolkit (3.2) binds no keys for a menu that pops up.
         menu->Append(command->menu.id, command->menu.text);
     }
     return menu;

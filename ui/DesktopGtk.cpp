@@ -1,3 +1,6 @@
+// What only GTK can be asked for. Each function makes good what GTK 3.24, or toolkit 3.2 on top of it, does differently
+// from what the dark windows need.
+
 #include "ui/Desktop.h"
 
 #include <gtk/gtk.h>
@@ -15,6 +18,7 @@ void addStyle(const char* rules)
     gtk_css_provider_load_from_data(provider, rules, -1, nullptr);
     gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(provider),
                                               GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    // The screen keeps it for as long as the program runs.
     g_object_unref(provider);
 }
 
@@ -34,6 +38,7 @@ namespace desktop
 
 void preferDark()
 {
+    // Scroll bars, menus and message boxes are drawn by the theme and take none of our colours.
     g_object_set(gtk_settings_get_default(), "gtk-application-prefer-dark-theme", TRUE, nullptr);
 }
 
@@ -70,11 +75,13 @@ void setAccessibleName(wxWindow& control, const wxString& name)
 
 void keepFocusOnClick(wxWindow& control)
 {
+    // A click on a button would take the keyboard from the grid, and the next key would press the button again.
     gtk_widget_set_focus_on_click(control.GetHandle(), FALSE);
 }
 
 int fieldHeight(const wxTextCtrl& field)
 {
+    // GTK is asked itself, since toolkit 3.2 answers from the size that the field has at the moment.
     int height = 0;
     gtk_widget_get_preferred_height(field.GetHandle(), nullptr, &height);
     return height;

@@ -1,3 +1,5 @@
+// The same on Windows, where most of it is as the program needs it.
+
 #include "ui/Desktop.h"
 
 #include <wx/textctrl.h>

@@ -1,3 +1,6 @@
+// The dark look of the dialogs, and the two buttons at their end. Every control gets its colours when it is made: the
+// toolkit hands down those of a parent to some kinds of controls only.
+
 #include "ui/DialogBase.h"
 
 #include "ui/ByteSwapHelp.h"
@@ -28,7 +31,9 @@ DialogBase::DialogBase(wxWindow* parent, wxWindowID id, const wxString& title, c
                        const wxSize& size)
     : wxDialog(parent, id, title, position, size, wxDEFAULT_DIALOG_STYLE)
 {
+    // A dialog is as large as its content, whatever that is in the font in use.
     SetSizeHints(wxDefaultSize, wxDefaultSize);
+    // Before the first control: what has no font of its own takes this one when it is created.
     SetFont(theme::dialog());
     SetForegroundColour(theme::colour(theme::dialogText));
     SetBackgroundColour(theme::colour(theme::dialogBackground));
@@ -67,6 +72,7 @@ wxTextCtrl* DialogBase::createField(const wxString& name, int width)
 
 int DialogBase::fieldWidthFor(int characters) const
 {
+    // The dialog has another font than its fields, so the font is named.
     const wxFont font = theme::regular(9);
     int width = 0;
     int height = 0;
@@ -93,6 +99,7 @@ wxCheckBox* DialogBase::createBareCheckBox(const wxString& name)
 
 wxButton* DialogBase::createButton(wxWindowID id, const wxString& text)
 {
+    // Created without its text, which decides about the size and so has to come after the font.
     auto* const button = new wxButton(this, id, wxString(), wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
     button->SetFont(theme::regular(9));
     button->SetForegroundColour(theme::colour(theme::buttonText));
@@ -107,6 +114,7 @@ void DialogBase::setButtonText(wxButton& button, const wxString& text)
     // Toolkit 3.2 measures a button of GTK before it has its font, so that larger texts would be cut.
     const wxSize padding = 2 * button.FromDIP(wxSize(buttonPadding, buttonHeightPadding));
     wxSize size = button.GetTextExtent(text) + padding;
+    // Not narrower than buttons of this desktop are: "Ok" alone would be hard to hit.
     size.SetWidth(std::max(size.GetWidth(), wxButton::GetDefaultSize(&button).GetWidth()));
     button.SetMinSize(size);
 }
@@ -114,6 +122,7 @@ void DialogBase::setButtonText(wxButton& button, const wxString& text)
 wxButton* DialogBase::createHelpButton()
 {
     auto* const button =
+        // It stands beside a text and is no larger than that.
         new wxButton(this, wxID_ANY, " ? ", wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxBU_EXACTFIT);
     button->SetFont(theme::helpButton());
     button->SetForegroundColour(theme::colour(theme::helpButtonText));
@@ -127,6 +136,7 @@ wxSizer* DialogBase::layEnding(wxButton* confirm)
 {
     cancelButton = createButton(wxID_CANCEL, "Cancel");
     cancelButton->Bind(wxEVT_BUTTON, &DialogBase::OnCancel, this);
+    // Enter confirms from any field: an engineer types one register after the other.
     confirm->SetDefault();
 
     auto* const sizer = new wxBoxSizer(wxHORIZONTAL);
@@ -144,5 +154,6 @@ void DialogBase::lay(wxSizer* content)
     SetSizer(content);
     Layout();
     content->Fit(this);
+    // Last, when the size is known.
     Centre(wxBOTH);
 }

@@ -1,3 +1,6 @@
+// Files in the executable are resources of Windows here. They lie in its image in memory, so nothing is copied or
+// released.
+
 #include "ui/EmbeddedFiles.h"
 
 #include <wx/msw/wrapwin.h>
@@ -7,6 +10,7 @@ std::span<const unsigned char> embeddedFile(std::string_view name)
 {
     const wxString wide = wxString::FromUTF8(name.data(), name.size());
     const HRSRC found = ::FindResourceW(nullptr, wide.wc_str(), RT_RCDATA);
+    // A picture that is missing is no failure: its button then shows none.
     if (found == nullptr)
         return {};
     const auto* bytes = static_cast<const unsigned char*>(::LockResource(::LoadResource(nullptr, found)));

@@ -1,3 +1,5 @@
+// The one place where the desktop's file dialog opens; tests answer in its place.
+
 #include "ui/FileChooser.h"
 
 #include <wx/filedlg.h>

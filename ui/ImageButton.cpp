@@ -1,3 +1,6 @@
+// The flat picture buttons of the toolbars. Each of their looks is a picture of its own, found by the name of the plain
+// one.
+
 #include "ui/ImageButton.h"
 
 #include "ui/Desktop.h"
@@ -20,6 +23,7 @@ wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const 
     // The frame that shows the focus is drawn in it.
     button->SetForegroundColour(theme::colour(theme::contentText));
     button->SetBitmapPressed(namedImage(name + "_pressed"));
+    // A space button must not change under the mouse: its look says which space is shown.
     if (hovering)
         button->SetBitmapCurrent(namedImage(name + "_hover"));
     button->SetMinSize(button->FromDIP(wxSize(buttonSide, buttonSide)));

@@ -1,3 +1,6 @@
+// Puts the main window together: the grids get their tables, the bars their buttons. The commands are in the other
+// MainFrame files, by topic; the layout is in MainFrameBase.
+
 #include "ui/MainFrame.h"
 
 #include "ui/CommandTable.h"
@@ -31,23 +34,28 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
       documentationFolder(suitePath + documentationSubfolder), deviceAddress(TOLVANE_DEFAULT_DEVICE_ADDRESS),
       secondDeviceAddress(TOLVANE_DEFAULT_DEVICE_ADDRESS)
 {
+    // Nothing reads the two device addresses and the empty name; they belong to the state of the window all the same.
     SetIcons(namedIcon("icon_program"));
     // The grid owns its table; the table answers from the document, which outlives both.
     mapTable = new MapGridTable(map);
     panelControls::showTable(*mapGrid, mapTable);
     showWhileEmpty(*mapGrid, [] { return "Copy tags with Ctrl+C, paste here with Ctrl+V"; });
+    // The browser knows the keys of its grid, but copying tags fills the clipboard of the map, which is here.
     sourceBrowser =
         new SourceBrowser(splitter, document.database, [this](const Command& command) { command.run(*this); });
     showSourcePanel(sourceBrowser);
     connectMenus();
     createButtons();
     Layout();
+    // The definition file is loaded by now; the list opens at its first row.
     refreshMapView(0);
+    // The map is what is edited; its keys work from the first moment.
     mapGrid->SetFocus();
 }
 
 void MainFrame::settleLayout()
 {
+    // The sash first: the room for the last columns depends on it. The halves are equal on any screen.
     splitter->SetSashPosition(splitter->GetSize().GetWidth() / 2);
     sourceBrowser->fitColumns();
     fitColumns();
@@ -62,6 +70,7 @@ void MainFrame::createButtons()
         if (command.bar != ButtonBar::None)
             createButton(command);
     }
+    // The copy button of the source side stands before the filter field, which was made earlier.
     sourceBrowser->orderTabStops();
     showSpaceButtons();
 }
@@ -69,6 +78,7 @@ void MainFrame::createButtons()
 void MainFrame::createSpaceButtons()
 {
     mapButtonSizer->AddSpacer(FromDIP(wideGap));
+    // The order on the screen is that of the button table; the array is by space, as everything else asks for it.
     for (const auto& [space, image, tooltip] : spaceButtonOrder)
     {
         wxBitmapButton* const button = createImageButton(mapButtonSizer->GetContainingWindow(), image, tooltip, false);
@@ -83,6 +93,7 @@ void MainFrame::createButton(const Command& command)
     wxSizer& place = buttonPlace(command.bar);
     addGap(place, command);
     wxBitmapButton* const button = createImageButton(place.GetContainingWindow(), command.image, command.tooltip, true);
+    // The command does not learn whether a button, an entry or a key has called it.
     button->Bind(wxEVT_BUTTON, [this, run = command.run](wxCommandEvent&) { run(*this); });
     place.Add(button, 0, wxALIGN_CENTRE_VERTICAL);
 }
@@ -102,6 +113,7 @@ wxSizer& MainFrame::buttonPlace(ButtonBar bar) const
 
 void MainFrame::addGap(wxSizer& sizer, const Command& command) const
 {
+    // Gaps group what belongs together: spaces, view, moves, clipboard and what follows it.
     switch (command.gap)
     {
     case ButtonGap::None:

@@ -92,7 +92,7 @@ private:
     FileChooser chooseFile;
     wxString documentationFolder;
 
-    // State of the window that nothing reads.
+    // Part of the state of this window, which nothing in the program reads.
     wxString deviceAddress;
     wxString secondDeviceAddress;
     wxString deviceName;

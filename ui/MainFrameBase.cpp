@@ -1,3 +1,10 @@
+// The layout of the main window: a bar of buttons across the top, below it a splitter with the source side on the left
+// and the map on the right. There is no menu bar, tool bar or status bar; the height belongs to the lists.
+//
+// The handlers here only pass their events on. What happens is said in the derived class, for those that it overrides;
+// a change of the selection (range selected, cell selected) is left to the grid, since commands look at it only when
+// they run.
+
 #include "ui/MainFrameBase.h"
 
 #include "ui/PanelControls.h"
@@ -23,21 +30,26 @@ constexpr int leastHeight = 480;
 } // namespace
 
 MainFrameBase::MainFrameBase()
+    // No system menu and no close box: the window is left with its exit button, which asks about saving.
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxCAPTION | wxRESIZE_BORDER | wxMINIMIZE_BOX | wxMAXIMIZE_BOX | wxTAB_TRAVERSAL),
       timer(this)
 {
     SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
+    // The size after the window is no longer maximised.
     SetSize(FromDIP(wxSize(1719, 824)));
     panelControls::dress(*this, theme::frameText, theme::frameBackground);
 
     createTopBar();
     splitter = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_3D | wxSP_LIVE_UPDATE);
+    // With 0 toolkit 3.2 takes one side away when the sash is pulled to the edge or double-clicked.
     splitter->SetMinimumPaneSize(1);
     splitter->SetSashGravity(0.5);
     panelControls::dress(*splitter, theme::frameText, theme::frameBackground);
+    // Both sides are laid out at every step of the sash; painted at once they would flicker.
     splitter->SetDoubleBuffered(true);
     createMapPanel();
+    // The source side needs the database, so the derived class brings it.
     splitter->Initialize(mapPanel);
 
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
@@ -48,6 +60,7 @@ MainFrameBase::MainFrameBase()
     Centre(wxBOTH);
 
     connectEvents();
+    // From here on the handlers are called, but not before the event loop runs.
     timer.Start(statusInterval);
 }
 
@@ -61,6 +74,7 @@ void MainFrameBase::createTopBar()
 
 void MainFrameBase::showSourcePanel(wxWindow* panel)
 {
+    // It is made after the map and stands before it; the Tab key goes from left to right.
     panel->MoveBeforeInTabOrder(mapPanel);
     splitter->SplitVertically(panel, mapPanel);
 }
@@ -74,6 +88,7 @@ void MainFrameBase::createMapPanel()
     mapButtonSizer = titleRow->GetSizer();
 
     mapGrid = panelControls::createGrid(mapPanel, mapColumns);
+    // The columns are fixed: only the last one follows the width of the window.
     mapGrid->DisableDragColMove();
     mapGrid->DisableDragColSize();
     mapGridHeader = new GridHeader(mapPanel, *mapGrid, mapColumns);
@@ -89,8 +104,11 @@ wxPanel* MainFrameBase::createStatusLine()
 {
     auto* const line = new QuietPanel(mapPanel);
     panelControls::dress(*line, theme::statusStart, theme::headerBackground);
+    // The text before the first count, a second after the start. The counted one is worded otherwise, with two blanks
+    // before it: "  No errors".
     statusLabel = panelControls::createText(line, "No Errors", theme::regular(9), theme::statusStart,
                                             wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
+    // It may be cut, and must not keep the map from getting narrow.
     statusLabel->SetMinSize(wxSize(0, -1));
     viewLabel = panelControls::createText(line, "COMPRESSED", theme::semibold(12), theme::title);
     viewLabel->SetBackgroundColour(theme::colour(theme::headerBackground));
@@ -106,7 +124,10 @@ void MainFrameBase::connectEvents()
     mapGrid->Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &MainFrameBase::OnMapGridCellDClick, this);
     mapGrid->Bind(wxEVT_GRID_RANGE_SELECTED, &MainFrameBase::OnMapGridRangeSelected, this);
     mapGrid->Bind(wxEVT_GRID_SELECT_CELL, &MainFrameBase::OnMapGridSelectCell, this);
+    // Handlers that are bound run before the grid's own, which has other meanings for some of the keys.
     mapGrid->Bind(wxEVT_KEY_DOWN, &MainFrameBase::OnMapGridKeyDown, this);
+    // On the window of the cells: the grid's own event for the right button comes over cells only, and the menu opens
+    // below the last row too.
     mapGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &MainFrameBase::OnMapGridRightDown, this);
     mapGrid->Bind(wxEVT_CONTEXT_MENU, &MainFrameBase::OnMapGridContextMenu, this);
     Bind(wxEVT_TIMER, &MainFrameBase::OnTimer, this, timer.GetId());

@@ -1,4 +1,5 @@
-// The entries of the context menus, and the menu and keys of the map grid.
+// The menus of both grids, and the keys of the map grid. A menu that pops up sends its event up to the window that
+// holds the grid, so the entries of both menus are answered here, by their numbers.
 
 #include "ui/CommandTable.h"
 #include "ui/MainFrame.h"
@@ -24,6 +25,7 @@ void MainFrame::showMapContextMenu(wxMouseEvent& event)
 
 void MainFrame::OnMapGridRightDown(wxMouseEvent& event)
 {
+    // Not passed on: toolkit 3.2 with GTK makes an event for a context menu of a press that nobody has handled.
     showMapContextMenu(event);
 }
 

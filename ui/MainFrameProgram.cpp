@@ -17,8 +17,8 @@ namespace
 {
 
 /// Shows the toolkit's own about box and waits until it is closed.
-/// Its functions (3.2) show a box that waits on some desktops only, and that deletes itself on the others: with GTK the
-/// program would go on, and take the next click, behind an open box.
+/// Its functions (3.2) wait on some desktops only. With GTK they return while the box is open, and the program would
+/// take the next click in the window under it.
 void showUntilClosed(const wxAboutDialogInfo& about)
 {
     wxGenericAboutDialog box(about);
@@ -55,6 +55,7 @@ bool MainFrame::saveDefinition()
         const wxString chosen = chooseFile(this, {"Save map definition file", wxString(), "map.csv",
                                                   "Map definition files (*.csv)|*.csv|All files (*.*)|*.*",
                                                   wxFD_SAVE | wxFD_OVERWRITE_PROMPT});
+        // A name that is not given keeps the window open: there is nowhere to save to.
         if (chosen.empty())
             return false;
         document.definitionPath = toPath(chosen);
@@ -81,18 +82,19 @@ void MainFrame::showAbout()
     about.SetVersion(TOLVANE_VERSION, wxString());
     about.SetDescription("Modbus map editor for Varnok and Dravel products");
     about.SetCopyright("Copyright (C) 2026 BELTHORNE LTD");
+    // Without a text of its own: the address is what can be clicked.
     about.SetWebSite("https://www.belthorne.example");
     showUntilClosed(about);
 }
 
 void MainFrame::showHelp()
 {
-    // The suite stores its paths in the form of one system only, also where this one writes them otherwise.
+    // The suite stores paths with backslashes only; other systems write them otherwise.
     wxString folder = documentationFolder;
     folder.Replace("\\", wxString(wxFileName::GetPathSeparator()));
     const wxString chosen =
         chooseFile(this, {"Select a document", folder, "*.pdf", "*.pdf", wxFD_OPEN | wxFD_FILE_MUST_EXIST});
-    // What cannot be opened, a document without a viewer for one, is the toolkit's to tell.
+    // The toolkit itself says when a document cannot be opened, for example because no viewer is installed.
     if (!chosen.empty())
         wxLaunchDefaultApplication(chosen);
 }

@@ -1,4 +1,8 @@
 // The map grid: what it shows and what is selected in it.
+//
+// Rows are never edited. After a command the list of addresses is made anew and the grid told how many rows there are;
+// what they say is asked for when they are painted. This drops the selection, so commands that are repeated on the same
+// registers (moves, locks) select them again by address.
 
 #include "map/MapView.h"
 #include "map/Selection.h"
@@ -21,9 +25,11 @@
 void MainFrame::refreshMapView(int scrollAddress)
 {
     refreshing = true;
+    // While it is exchanged the list is half old and half new; keys that arrive now are dropped.
     mapTable->show(shownAddresses(map.currentSlots(), map.viewMode));
     if (scrollAddress >= 0 && mapTable->GetNumberRows() > 0)
     {
+        // An address that is not listed leads to the first row.
         const int row = mapTable->rowOf(scrollAddress).value_or(0);
         scrollToTop(*mapGrid, row);
         // Rows are exchanged under the cursor; without this the next arrow key would jump to where it was before.
@@ -36,6 +42,7 @@ void MainFrame::refreshMapView(int scrollAddress)
 void MainFrame::showViewMode()
 {
     const wxString text = toolkitText(viewModeLabel(map.viewMode));
+    // Its neighbour shares the line, so a change lays the line out again; that is spared after every other command.
     if (viewLabel->GetLabelText() == text)
         return;
     viewLabel->SetLabelText(text);
@@ -63,6 +70,7 @@ void MainFrame::selectSpace(RegisterSpace space)
 {
     map.currentSpace = space;
     showSpaceButtons();
+    // Another space has other addresses, so the list starts at its beginning. The view mode stays.
     refreshMapView(0);
 }
 
@@ -72,6 +80,7 @@ void MainFrame::showSpaceButtons()
     {
         const wxString image = button.image;
         const bool shown = button.space == map.currentSpace;
+        // The plain picture is exchanged, since a button of the desktop looks pressed only as long as it is.
         spaceButtons[static_cast<std::size_t>(button.space)]->SetBitmapLabel(
             namedImage(shown ? image + "_pressed" : image));
     }
@@ -86,6 +95,7 @@ void MainFrame::toggleView()
 void MainFrame::refreshStatus()
 {
     map.errorCount = countErrors(map);
+    // Called once a second for as long as the window is open: nothing is painted unless the number is another one.
     if (shownErrorCount == map.errorCount)
         return;
     shownErrorCount = map.errorCount;
@@ -109,11 +119,13 @@ std::vector<int> MainFrame::collectSelection() const
 void MainFrame::reselectAddresses(std::vector<int> addresses)
 {
     refreshing = true;
+    // Results of a move come in the order of moving.
     std::sort(addresses.begin(), addresses.end());
     std::vector<int> rows;
     for (const int address : addresses)
     {
         const std::optional<int> row = mapTable->rowOf(address);
+        // Continuation registers have no row in the compressed list, and an address may be listed twice.
         if (row && (rows.empty() || rows.back() < *row))
             rows.push_back(*row);
     }
@@ -127,12 +139,14 @@ void MainFrame::reselectAddresses(std::vector<int> addresses)
 void MainFrame::followMove(MoveDirection direction)
 {
     const std::vector<int> rows = selectedRows(*mapGrid);
+    // The end that moves ahead stays in sight while a key is held down.
     if (!rows.empty())
         bringIntoView(*mapGrid, direction == MoveDirection::Up ? rows.front() : rows.back());
 }
 
 void MainFrame::selectAllRegisters()
 {
+    // As one block: by single rows it would take time in the longest list.
     mapGrid->SelectAll();
 }
 

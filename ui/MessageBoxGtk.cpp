@@ -28,6 +28,7 @@ private:
     static gboolean onShow(GSignalInvocationHint*, guint, const GValue* parameters, gpointer data)
     {
         auto* const shown = static_cast<GtkWidget*>(g_value_get_object(parameters));
+        // Every control that appears meanwhile comes by here.
         if (GTK_IS_MESSAGE_DIALOG(shown))
             static_cast<const MessageBoxCompletion*>(data)->complete(*shown);
         return TRUE; // to be told of the next one too
@@ -49,6 +50,7 @@ private:
         auto* const row = GTK_BOX(gtk_widget_get_parent(texts));
         GtkWidget* const icon = gtk_image_new_from_icon_name("dialog-error", GTK_ICON_SIZE_DIALOG);
         gtk_box_pack_start(row, icon, FALSE, FALSE, 0);
+        // The row holds the texts already; a box is filled from its start.
         gtk_box_reorder_child(row, icon, 0);
         gtk_widget_set_valign(icon, GTK_ALIGN_START);
         gtk_widget_show(icon);

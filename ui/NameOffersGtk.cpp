@@ -1,3 +1,7 @@
+// The list below a field with GTK 3.24: shown by GTK's own completion, filled by what the user types. Three things
+// about it are kept in order here: names that the arrow keys put into the field are not taken for typing, Enter and Esc
+// do what the dialog promises, and a click elsewhere is not swallowed.
+
 #include "ui/NameOffers.h"
 #include "ui/ToolkitText.h"
 
@@ -54,6 +58,7 @@ public:
     {
         gtk_entry_completion_set_model(list.completion, GTK_TREE_MODEL(rows));
         gtk_entry_completion_set_text_column(list.completion, 0);
+        // The arrow keys then put names into the field instead of only marking them in the list.
         gtk_entry_completion_set_inline_selection(list.completion, TRUE);
         // The list holds nothing but what is to be offered.
         gtk_entry_completion_set_match_func(
@@ -107,6 +112,7 @@ private:
 
     void fill()
     {
+        // Kept, so that Esc can bring it back after the arrow keys.
         typed = gtk_entry_get_text(entry);
         gtk_list_store_clear(rows);
         for (const wxString& name : names(toolkitText(typed)))

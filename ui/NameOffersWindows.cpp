@@ -1,3 +1,5 @@
+// The list below a field on Windows. The toolkit's own completion does there what is wanted.
+
 #include "ui/NameOffers.h"
 
 #include <wx/textcompleter.h>
@@ -8,6 +10,7 @@
 namespace
 {
 
+/// Asked at each change of the field, as the list with GTK is.
 class Completer : public wxTextCompleterSimple
 {
 public:
@@ -27,5 +30,6 @@ private:
 
 void offerNames(wxTextCtrl& field, NameSource names)
 {
+    // The field owns it from here on.
     field.AutoComplete(new Completer(std::move(names)));
 }

@@ -1,3 +1,6 @@
+// Pictures out of the executable. Each is there twice, the second time with twice the pixels, and the toolkit takes the
+// one that suits the screen.
+
 #include "ui/NamedImages.h"
 
 #include "ui/EmbeddedFiles.h"
@@ -25,6 +28,8 @@ wxBitmapBundle namedImage(const wxString& name)
 {
     const wxBitmap single = bitmapOf(name);
     const wxBitmap twofold = bitmapOf(name + "@2x");
+    // With one of the two a button would be sharp on some screens and blurred on the others; a missing one is seen at
+    // once.
     if (!single.IsOk() || !twofold.IsOk())
         return {};
     return wxBitmapBundle::FromBitmaps(single, twofold);
@@ -36,6 +41,7 @@ wxIconBundle namedIcon(const wxString& name)
     for (const wxString& pictureName : {name, name + "@2x"})
     {
         const wxBitmap bitmap = bitmapOf(pictureName);
+        // A window without an icon of its own gets the desktop's.
         if (!bitmap.IsOk())
             continue;
         wxIcon icon;

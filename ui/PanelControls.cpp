@@ -1,3 +1,6 @@
+// The controls of both sides of the main window. What is set here is set once for both grids; what differs between them
+// is in the layout class of each side.
+
 #include "ui/PanelControls.h"
 
 #include "ui/QuietPanel.h"
@@ -67,6 +70,7 @@ int rowHeight(const wxWindow& window)
     int width = 0;
     int line = 0;
     window.GetTextExtent("x", &width, &line, nullptr, nullptr, &font);
+    // Texts may be larger than usual; a row is then as high as they need.
     return std::max(window.FromDIP(usualRowHeight), line + window.FromDIP(rowPadding));
 }
 
@@ -90,6 +94,7 @@ wxPanel* createTitleRow(wxWindow* parent, const wxString& title)
     dress(*row, theme::frameText, theme::headerBackground);
     auto* const text = createText(row, title, theme::semibold(16), theme::title);
     text->SetBackgroundColour(theme::colour(theme::headerBackground));
+    // Half of a small screen is too narrow for all buttons of the map.
     auto* const sizer = new WrappingRowSizer(row->FromDIP(buttonNarrowing));
     sizer->SetMinSize(row->FromDIP(wxSize(0, titleRowHeight)));
     sizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT, row->FromDIP(titleBorder));
@@ -105,12 +110,14 @@ wxGrid* createGrid(wxWindow* parent, GridColumns columns)
     grid->EnableEditing(false);
     grid->EnableGridLines(false);
     grid->SetMargins(0, 0);
+    // Texts above the grid stand in for the labels of columns; rows have none.
     grid->SetRowLabelSize(0);
     grid->SetColLabelSize(0);
     grid->SetDefaultRowSize(rowHeight(*grid));
     grid->SetScrollLineY(rowHeight(*grid)); // no row is ever cut at the top
     grid->DisableDragRowSize();
     grid->DisableDragGridSize(); // a click near the edge of a cell is meant for its row
+    // A long name ends in its own column, also where the next cell is empty.
     grid->SetDefaultCellOverflow(false);
     grid->SetDefaultRenderer(new RowCellRenderer);
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
@@ -128,6 +135,7 @@ void showTable(wxGrid& grid, wxGridTableBase* table)
     widths.reserve(static_cast<std::size_t>(grid.GetNumberCols()));
     for (int column = 0; column < grid.GetNumberCols(); ++column)
         widths.push_back(grid.GetColSize(column));
+    // Toolkit 3.2 gives all columns their default width with a new table, and no call keeps them.
     grid.SetTable(table, true, wxGrid::wxGridSelectRows);
     for (std::size_t column = 0; column < widths.size(); ++column)
         grid.SetColSize(static_cast<int>(column), widths[column]);

@@ -1,3 +1,7 @@
+// What the register editor does: it shows the fields that a type has, says at every change whether the length fits, and
+// takes Ok only for an edit that can be applied. The answers come from the rules in map/RegisterEdit; here they become
+// controls.
+
 #include "ui/RegisterEditor.h"
 
 #include "source/TagNames.h"
@@ -34,8 +38,10 @@ constexpr const char* okMovingText = "Ok (see warning)";
 RegisterEditor::RegisterEditor(wxWindow* parent, wxWindowID id, const wxString& title)
     : RegisterEditorBase(parent, id, title)
 {
+    // Another text may be typed too; the edit then makes an INT16 of it.
     for (const DataType type : allDataTypes)
         typeBox->Append(toolkitText(typeName(type)));
+    // It keeps letters out. Which numbers are allowed is a question of the room, and asked at every change.
     lengthField->SetValidator(wxIntegerValidator<int>());
 
     // The dialog stays as large as it is from here on, so it has to have room for all rows and the longest text.
@@ -81,6 +87,7 @@ void RegisterEditor::offerTagnames(const TagTable& tags)
 
 EditedRegister RegisterEditor::editedRegister() const
 {
+    // Boxes that are hidden are read as well. The edit drops the flags that its type cannot carry.
     return {.tagname = modelText(tagnameField->GetValue()),
             .description = modelText(descriptionField->GetValue()),
             .typeName = modelText(typeBox->GetValue()),
@@ -94,6 +101,7 @@ EditedRegister RegisterEditor::editedRegister() const
 void RegisterEditor::showFieldsFor(const FieldVisibility& visibility)
 {
     lengthLabel->Show(visibility.lengthLabel);
+    // The label of the length goes with DOUBLE and the field stays as it was: after STRING it stands there alone.
     lengthField->Show(visibility.lengthField.value_or(lengthField->IsShown()));
     byteOrderLabel->Show(visibility.byteOrder);
     swapBytesBox->Show(visibility.SwapBytes);
@@ -113,6 +121,7 @@ void RegisterEditor::offerOk(const wxString& text)
 void RegisterEditor::OnTypeChanged(wxCommandEvent&)
 {
     const std::string type = modelText(typeBox->GetValue());
+    // Every type starts with its own count, a STRING with 1. Setting it also checks the room.
     lengthField->SetValue(wxString::Format("%d", registerCountFor(type, "1")));
     if (const std::optional<FieldVisibility> visibility = visibilityFor(type))
         showFieldsFor(*visibility);
@@ -125,6 +134,7 @@ void RegisterEditor::OnLengthChanged(wxCommandEvent&)
     {
     case SpaceCheck::TooLong:
         statusLabel->SetLabel(tooLongText);
+        // There is no length to confirm. Cancel is always there.
         okButton->Hide();
         break;
     case SpaceCheck::Fits:
@@ -144,6 +154,7 @@ void RegisterEditor::OnOk(wxCommandEvent&)
     // A default button that is hidden may still be pressed by the Enter key.
     if (!okButton->IsShown())
         return;
+    // An object without a name is not applied, so Ok ends like Cancel then. A name of blanks is a name.
     switch (confirmEdit(modelText(tagnameField->GetValue()), modelText(lengthField->GetValue())))
     {
     case EditConfirmation::Apply:

@@ -1,3 +1,6 @@
+// The layout of the register editor: a label and a control in each row, a line for what the space check says, and the
+// two buttons.
+
 #include "ui/RegisterEditorBase.h"
 
 #include "ui/Desktop.h"
@@ -31,12 +34,14 @@ RegisterEditorBase::RegisterEditorBase(wxWindow* parent, wxWindowID id, const wx
     content->AddStretchSpacer();
     content->Add(statusLabel, 0, wxEXPAND | wxALL, FromDIP(border));
     content->AddStretchSpacer();
+    // Before Cancel, so that the Tab key reaches it first.
     okButton = createButton(wxID_OK, "Ok");
     content->Add(layEnding(okButton), 0, wxEXPAND);
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(content, 1, wxEXPAND | wxALL, FromDIP(margin));
     lay(sizer);
 
+    // A register that is edited mostly gets another tag.
     tagnameField->SetFocus();
     connectEvents();
 }
@@ -44,6 +49,7 @@ RegisterEditorBase::RegisterEditorBase(wxWindow* parent, wxWindowID id, const wx
 wxSizer* RegisterEditorBase::layFields()
 {
     auto* const sizer = new wxFlexGridSizer(2, 0, 0);
+    // Labels take what their texts need, controls the rest.
     sizer->AddGrowableCol(1);
     const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
     const wxSizerFlags wide = wxSizerFlags().Expand().Border(wxALL, FromDIP(border));
@@ -56,6 +62,7 @@ wxSizer* RegisterEditorBase::layFields()
 
     addLabel("Tagname");
     tagnameField = createField("Tagname", fieldWidthFor(textLength));
+    // The definition file has no quotes, so a comma in a name would end its field.
     tagnameField->SetToolTip("a name of the tag database, without a comma or a line break");
     sizer->Add(tagnameField, wide);
 
@@ -65,6 +72,7 @@ wxSizer* RegisterEditorBase::layFields()
 
     lengthLabel = addLabel("Length");
     lengthField = createField("Length", FromDIP(typeWidth));
+    // The unit is not what one expects of a text.
     lengthField->SetToolTip("registers, 2 characters each");
     sizer->Add(lengthField, flags);
 
@@ -77,6 +85,7 @@ wxSizer* RegisterEditorBase::layFields()
 
     addLabel("Description");
     descriptionField = createField("Description", fieldWidthFor(textLength));
+    // As for the name.
     descriptionField->SetToolTip("no comma and no line break, or the line is not read again");
     sizer->Add(descriptionField, wide);
     return sizer;
@@ -84,6 +93,7 @@ wxSizer* RegisterEditorBase::layFields()
 
 void RegisterEditorBase::createTypeBox()
 {
+    // It may be typed into: who knows the type is quicker that way.
     typeBox = new wxComboBox(this, wxID_ANY, wxString(), wxDefaultPosition, FromDIP(wxSize(typeWidth, -1)), 0, nullptr,
                              wxCB_DROPDOWN | wxBORDER_NONE);
     typeBox->SetFont(theme::regular(9));
@@ -111,6 +121,7 @@ wxSizer* RegisterEditorBase::layByteOrder()
 
 void RegisterEditorBase::createStatusLabel()
 {
+    // The text is never seen: the space check has written another one before the dialog appears.
     statusLabel = new wxStaticText(this, wxID_ANY, "fhjfghj", wxDefaultPosition, wxDefaultSize,
                                    wxALIGN_CENTRE_HORIZONTAL | wxST_NO_AUTORESIZE);
     statusLabel->SetFont(theme::semibold(10));
@@ -120,12 +131,14 @@ void RegisterEditorBase::createStatusLabel()
 
 void RegisterEditorBase::connectEvents()
 {
+    // A type is chosen from the list or typed, and a value set by the program counts as typed.
     typeBox->Bind(wxEVT_COMBOBOX, &RegisterEditorBase::OnTypeChanged, this);
     typeBox->Bind(wxEVT_TEXT, &RegisterEditorBase::OnTypeChanged, this);
     lengthField->Bind(wxEVT_TEXT, &RegisterEditorBase::OnLengthChanged, this);
     okButton->Bind(wxEVT_BUTTON, &RegisterEditorBase::OnOk, this);
 }
 
+// The layout has no behaviour; the editor that derives from it has.
 void RegisterEditorBase::OnTypeChanged(wxCommandEvent&) {}
 
 void RegisterEditorBase::OnLengthChanged(wxCommandEvent&) {}

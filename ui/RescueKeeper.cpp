@@ -1,3 +1,7 @@
+// Writes the rescue copy: every minute in which something has changed, and at the end. The text is made on the thread
+// of the windows, which is the only one that changes the map; writing it is left to another thread, so that a slow disk
+// does not make the window wait. At most one write is under way.
+
 #include "ui/RescueKeeper.h"
 
 #include "map/DefinitionFile.h"
@@ -34,10 +38,10 @@ try
         return;
     std::string text = definitionText(document.map);
     const std::size_t hash = std::hash<std::string>{}(text);
+    // Unsaved but the same as a minute ago: the copy on the disk is still right.
     if (hash == writtenText)
         return;
     writtenText = hash;
-    // The text is made here, where nobody changes the map meanwhile. A slow disk is waited for elsewhere.
     writing = std::async(std::launch::async, [this, name = document.definitionPath, made = std::move(text)]
                          { return copy.write(name, made); });
 }
@@ -53,11 +57,13 @@ catch (const std::system_error&)
 void RescueKeeper::finish()
 try
 {
+    // No refresh may begin while the last copy is written.
     timer.Stop();
     if (writing.valid())
         writing.wait();
     if (!document.hasUnsavedChanges())
         return copy.remove();
+    // One line for whoever started the program from a terminal. No window can be asked for any more.
     if (copy.write(document.definitionPath, definitionText(document.map)))
         std::cerr << "tolvane: unsaved changes are kept in " << copy.file().string() << std::endl;
 }

@@ -1,3 +1,6 @@
+// Carries the six flags of the default byte order into the boxes and back. Three of the boxes are hidden. They are
+// filled and read like the others, so that a flag from the command line is still set after the dialog.
+
 #include "ui/SettingsDialog.h"
 
 #include <wx/checkbox.h>
@@ -24,5 +27,6 @@ DefaultByteOrder SettingsDialog::byteOrder() const
 
 void SettingsDialog::OnOk(wxCommandEvent&)
 {
+    // Nothing can be wrong with six boxes, so nothing is checked.
     EndModal(wxID_OK);
 }

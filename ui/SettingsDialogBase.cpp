@@ -1,3 +1,5 @@
+// The layout of the settings dialog: a heading, what the settings are for, and a table of check boxes.
+
 #include "ui/SettingsDialogBase.h"
 
 #include "ui/Theme.h"
@@ -35,6 +37,7 @@ SettingsDialogBase::SettingsDialogBase(wxWindow* parent, wxWindowID id, const wx
     sizer->Add(content, 1, wxEXPAND | wxALL, FromDIP(margin));
     lay(sizer);
 
+    // The settings can be made without the mouse, starting here.
     floatSwapBytes->SetFocus();
     okButton->Bind(wxEVT_BUTTON, &SettingsDialogBase::OnOk, this);
 }
@@ -58,6 +61,7 @@ wxStaticText* SettingsDialogBase::createExplanation(int leastWidth)
                          "objects copied from the source database to the modbus registers");
     text->SetFont(theme::semibold(9).Italic());
     text->SetForegroundColour(theme::colour(theme::entryText));
+    // A text does not wrap by itself, and the dialog is as wide as its content.
     text->Wrap(std::max(FromDIP(explanationWidth), leastWidth));
     return text;
 }
@@ -72,8 +76,10 @@ wxSizer* SettingsDialogBase::layByteOrder()
         return control;
     };
     const auto addLabel = [this, add](const wxString& text) { return add(createLabel(text)); };
+    // Boxes have no text: the row and the column say what they are. A screen reader is told both.
     const auto addBox = [this, add](const wxString& name) { return add(createBareCheckBox(name)); };
 
+    // An empty spacer fills a cell of the table that shows nothing.
     sizer->AddSpacer(0);
     addLabel("Swap");
     sizer->AddSpacer(0);
@@ -94,10 +100,12 @@ wxSizer* SettingsDialogBase::layByteOrder()
     intSwapWords = addBox("Integer Words");
     intSwapLongs = addBox("Integer Longs");
 
+    // Tags become INT16 or FLOAT: one register has bytes to swap, two have words as well, and nothing here has longs.
     for (wxWindow* const hidden : {static_cast<wxWindow*>(longsHeading), static_cast<wxWindow*>(floatSwapLongs),
                                    static_cast<wxWindow*>(intSwapWords), static_cast<wxWindow*>(intSwapLongs)})
         hidden->Hide();
     return sizer;
 }
 
+// The layout has no behaviour; the dialog that derives from it ends itself.
 void SettingsDialogBase::OnOk(wxCommandEvent&) {}

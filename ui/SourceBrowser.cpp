@@ -1,3 +1,6 @@
+// The source side at work. Tree, text and check boxes each say which tags are wanted; any change of one of them builds
+// the list anew. Tags leave this side in one way only, by the copy command, which reads the selected rows.
+
 #include "ui/SourceBrowser.h"
 
 #include "ui/CommandTable.h"
@@ -39,25 +42,30 @@ SourceBrowser::SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, C
     showWhileEmpty(*sourceGrid, [this] { return emptyListText(); });
     createGroupBoxes();
     createTree();
+    // Last, because the boxes are asked what to show.
     refreshTags();
 }
 
 void SourceBrowser::createGroupBoxes()
 {
     const int border = FromDIP(groupBorder);
+    // A tag has 32 group bits, so there are no boxes for more.
     const std::size_t count = std::min(database.groups.size(), filterableGroups);
     for (const TagGroup& group : std::span(database.groups).first(count))
     {
+        // An ampersand in the name of a group is a character and no shortcut.
         auto* const box = new wxCheckBox(groupFilters, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.flag)));
         panelControls::dress(*box, theme::groupFlag, theme::contentBackground);
         groupBoxes.push_back(box);
         groupFilterSizer->Add(box, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxTOP, border);
 
         auto* const text = new wxStaticText(groupFilters, wxID_ANY, wxString());
+        // Set as a text, for the same reason.
         text->SetLabelText(toolkitText(group.description));
         panelControls::dress(*text, theme::groupDescription, theme::contentBackground);
         groupFilterSizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT | wxTOP, border);
     }
+    // There may be more boxes than the area is high; it scrolls then.
     groupFilters->FitInside();
     groupFilters->Layout();
 }
@@ -69,15 +77,18 @@ void SourceBrowser::createTree()
     items.reserve(database.structure.size());
     for (const StructureNode& node : database.structure)
     {
+        // Nodes are listed after their parents, so the parent is in the tree already.
         const wxTreeItemId parent = node.parent < 0 ? hiddenRoot : items[static_cast<std::size_t>(node.parent)];
         items.push_back(
             sourceTree->AppendItem(parent, toolkitText(node.label), -1, -1, new SourceTreeItem(node.dbPrefix)));
     }
+    // Open from the start: most plants have two levels, and a unit is then one click away.
     sourceTree->ExpandAll();
 }
 
 bool SourceBrowser::isInside(wxTreeItemId node, const wxTreeItemId& ancestor) const
 {
+    // From the parent on: a node is not inside itself.
     do
         node = sourceTree->GetItemParent(node);
     while (node.IsOk() && node != ancestor);
@@ -100,6 +111,7 @@ TagFilter SourceBrowser::currentFilter() const
     filter.text = modelText(sourceFilter->GetValue());
     for (std::size_t i = 0; i < groupBoxes.size(); ++i)
     {
+        // A box that is clear asks for nothing; two that are ticked ask for tags in both groups.
         if (groupBoxes[i]->IsChecked())
             filter.checkedMasks.push_back(database.groups[i].mask);
     }
@@ -109,11 +121,13 @@ TagFilter SourceBrowser::currentFilter() const
 void SourceBrowser::refreshTags()
 {
     table->show(filterTags(database.tags, searchIndex, currentFilter()));
+    // Other tags stand in the rows now, so the place in the old list means nothing.
     goToFirstRow(*sourceGrid);
 }
 
 wxString SourceBrowser::emptyListText() const
 {
+    // Two reasons for an empty list, and another filter helps against one of them only.
     return database.tags.count() == 0 ? "The database holds no tags" : "No tags match the filter";
 }
 
@@ -134,6 +148,7 @@ void SourceBrowser::OnSourceTreeSelChanged(wxTreeEvent& event)
     const wxTreeItemId node = event.GetItem();
     const auto* const payload =
         node.IsOk() ? dynamic_cast<const SourceTreeItem*>(sourceTree->GetItemData(node)) : nullptr;
+    // Folding and unfolding select nodes too. They bring back the node that is in force and change nothing.
     if (!payload || node == chosenNode)
         return;
     chosenNode = node;
@@ -152,12 +167,14 @@ void SourceBrowser::OnSourceTreeItemCollapsing(wxTreeEvent& event)
 void SourceBrowser::OnSourceTreeItemExpanded(wxTreeEvent& event)
 {
     event.Skip();
+    // The node in force can be seen again, so it is highlighted again.
     if (chosenNode.IsOk() && isUnfolded(chosenNode))
         sourceTree->SelectItem(chosenNode);
 }
 
 void SourceBrowser::OnSourceFilterChanged(wxCommandEvent&)
 {
+    // At every letter: the largest database is filtered and painted before the next letter is typed.
     refreshTags();
 }
 
@@ -165,6 +182,7 @@ void SourceBrowser::OnSourceFilterKeyDown(wxKeyEvent& event)
 {
     // Down is not passed on: GTK 3 would give the keyboard to whatever control comes next.
     const int key = event.HasAnyModifiers() ? WXK_NONE : event.GetKeyCode();
+    // Esc and Down are how one leaves a search: back to all tags, or on to those that are found.
     if (key == WXK_ESCAPE)
         sourceFilter->Clear();
     else if (key != WXK_DOWN)
@@ -175,6 +193,7 @@ void SourceBrowser::OnSourceFilterKeyDown(wxKeyEvent& event)
 
 void SourceBrowser::OnSourceGridKeyDown(wxKeyEvent& event)
 {
+    // All other keys are the grid's own: arrows, pages, home and end.
     if (const Command* const command = commandForKey(CommandGrid::Tags, event))
         runCommand(*command);
     else

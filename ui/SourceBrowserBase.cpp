@@ -1,3 +1,6 @@
+// The layout of the source side: the tree beside the list of tags, each below its title row, and the group filters
+// across both. Like the layout of the main window it has no behaviour; its handlers pass their events on.
+
 #include "ui/SourceBrowserBase.h"
 
 #include "ui/Desktop.h"
@@ -31,12 +34,14 @@ SourceBrowserBase::SourceBrowserBase(wxWindow* parent) : QuietPanel(parent)
 {
     panelControls::dress(*this, theme::frameText, theme::frameBackground);
     auto* const columns = new wxBoxSizer(wxHORIZONTAL);
+    // A row of the list has five texts, a node of the tree one.
     columns->Add(createTreeColumn(), 2, wxEXPAND);
     columns->Add(createTagColumn(), 5, wxEXPAND | wxLEFT, FromDIP(1));
     auto* const sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(columns, 1, wxEXPAND);
     createGroupFilters(*sizer);
     SetSizer(sizer);
+    // Laid out at every step of the sash; painted at once it would flicker.
     SetDoubleBuffered(true);
     connectEvents();
 }
@@ -73,6 +78,7 @@ wxPanel* SourceBrowserBase::createDatabaseRow()
 {
     wxPanel* const row = panelControls::createTitleRow(this, "DATABASE");
     wxSizer& sizer = *row->GetSizer();
+    // Empty until the main window brings its buttons: commands are its affair.
     buttonSizer = new wxBoxSizer(wxHORIZONTAL);
     sizer.Add(buttonSizer, 0, wxALIGN_CENTRE_VERTICAL);
     sizer.AddStretchSpacer();
@@ -84,7 +90,9 @@ wxPanel* SourceBrowserBase::createDatabaseRow()
     panelControls::dress(*sourceFilter, theme::filterText, theme::contentBackground);
     sourceFilter->SetToolTip("Tagname and Description filter");
     desktop::setAccessibleName(*sourceFilter, "Filter");
+    // Toolkit 3.2 has no usable best size for a field of GTK, see desktop::fieldHeight.
     sourceFilter->SetMinSize(wxSize(FromDIP(filterWidth), desktop::fieldHeight(*sourceFilter)));
+    // It grows with the window; long tagnames are typed here.
     filter->Add(sourceFilter, 1, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(8));
     sizer.Add(filter, 1, wxALIGN_CENTRE_VERTICAL);
     return row;
@@ -96,9 +104,11 @@ void SourceBrowserBase::createGroupFilters(wxSizer& column)
     column.Add(panelControls::createText(this, "Group Filters", theme::semibold(14), theme::title), 0, wxLEFT | wxTOP,
                FromDIP(8));
     groupFilters = new QuietScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
+    // By rows, as the lists.
     groupFilters->SetScrollRate(0, panelControls::rowHeight(*this));
     groupFilters->SetMinSize(FromDIP(wxSize(-1, groupFilterHeight)));
     panelControls::dress(*groupFilters, theme::groupDescription, theme::contentBackground);
+    // In each row a box with the name of the group, and what the group is about.
     groupFilterSizer = new wxFlexGridSizer(2, 0, 0);
     groupFilters->SetSizer(groupFilterSizer);
     column.Add(groupFilters, 0, wxEXPAND | wxALL, FromDIP(4));
@@ -111,6 +121,7 @@ void SourceBrowserBase::connectEvents()
     sourceTree->Bind(wxEVT_TREE_ITEM_EXPANDED, &SourceBrowserBase::OnSourceTreeItemExpanded, this);
     sourceFilter->Bind(wxEVT_TEXT, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceFilter->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceFilterKeyDown, this);
+    // The boxes are made when the groups are known. Their events come up to the area that holds them.
     groupFilters->Bind(wxEVT_CHECKBOX, &SourceBrowserBase::OnSourceFilterChanged, this);
     sourceGrid->Bind(wxEVT_KEY_DOWN, &SourceBrowserBase::OnSourceGridKeyDown, this);
     sourceGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &SourceBrowserBase::OnSourceGridRightDown, this);
@@ -119,6 +130,7 @@ void SourceBrowserBase::connectEvents()
 
 void SourceBrowserBase::orderTabStops()
 {
+    // The Tab key goes through controls in the order of their making, and the buttons are made last.
     for (wxSizerItem* const item : buttonSizer->GetChildren())
         item->GetWindow()->MoveBeforeInTabOrder(sourceFilter);
 }
@@ -128,6 +140,7 @@ void SourceBrowserBase::fitColumns()
     sourceGridHeader->settle();
 }
 
+// From here on: events that are passed on, for whoever derives.
 void SourceBrowserBase::OnSourceTreeSelChanged(wxTreeEvent& event)
 {
     event.Skip();

@@ -1,3 +1,5 @@
+// The layout of the dialog that renames tags: two fields with their labels, and the buttons.
+
 #include "ui/TagSearchAndReplaceDialogBase.h"
 
 #include <wx/button.h>
@@ -28,6 +30,7 @@ TagSearchAndReplaceDialogBase::TagSearchAndReplaceDialogBase(wxWindow* parent, w
     sizer->Add(layEnding(replaceButton), 0, wxEXPAND | wxALL, FromDIP(border));
     lay(sizer);
 
+    // What is to be found is typed first.
     findText->SetFocus();
     replaceButton->Bind(wxEVT_BUTTON, &TagSearchAndReplaceDialogBase::OnReplace, this);
 }
@@ -39,6 +42,7 @@ wxSizer* TagSearchAndReplaceDialogBase::layFields()
     replaceLabel = createLabel("Replace with");
     replaceText = createField(replaceLabel->GetLabel(), fieldWidthFor(textLength));
 
+    // Two columns of one width: the fields stand below each other and are of one size.
     auto* const sizer = new wxGridSizer(2);
     const wxSizerFlags flags = wxSizerFlags().CentreVertical().Border(wxALL, FromDIP(border));
     sizer->Add(findLabel, flags);

@@ -1,3 +1,6 @@
+// Colours and fonts of the dark look. Red and yellow are kept for what an engineer has to look at: red for what does
+// not fit the tag database and for locks, yellow for the mark of an error.
+
 #include "ui/Theme.h"
 
 #include "map/MapRow.h"
@@ -27,6 +30,7 @@ wxFont face(const wxString& name, int points, int weight)
     if (isInstalled(name))
         font.SetFaceName(name);
     font.SetPointSize(points);
+    // By its number: the named face is of that weight already, the desktop's own face has to be told.
     font.SetNumericWeight(weight);
     return font;
 }
@@ -38,6 +42,7 @@ namespace theme
 
 wxColour buttonBackground()
 {
+    // Asked every time, because the user may change the desktop's colours meanwhile.
     return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
 }
 
@@ -48,22 +53,27 @@ Rgb cellColour(MapTone tone)
     case MapTone::Plain:
         return cellText;
     case MapTone::Sound:
+        // Brighter than the rest of its row: address, name and type are what one looks for.
         return {220, 220, 220};
     case MapTone::Error:
     case MapTone::Lock:
+        // A lock is no error, but it stops commands as surely as one.
         return {255, 0, 0};
     case MapTone::Warning:
         return {255, 255, 0};
     case MapTone::Writable:
+        // Orange: the control system can write here, which is worth a second look.
         return {255, 150, 0};
     case MapTone::ReadOnly:
         return {217, 255, 0};
     case MapTone::Continuation:
+        // Registers that belong to the object above them stand back.
         return {120, 120, 200};
     case MapTone::Free:
+        // Nothing to read here; the address is there to be pasted at.
         return {80, 80, 80};
     }
-    return cellText;
+    return cellText; // for a value that is no tone; the compiler wants an answer
 }
 
 Rgb cellColour(TagTone tone)
@@ -81,9 +91,10 @@ Rgb cellColour(TagTone tone)
     case TagTone::UnknownType:
         return {255, 255, 255};
     case TagTone::Flags:
+        // As beside the check boxes that filter by these flags.
         return groupFlag;
     }
-    return cellText;
+    return cellText; // as above
 }
 
 wxFont regular(int points)
@@ -103,6 +114,7 @@ wxFont cell()
 
 wxFont columnTitle()
 {
+    // Small, so that each title fits the column that its texts need.
     return regular(8);
 }
 

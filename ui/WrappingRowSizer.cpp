@@ -1,3 +1,9 @@
+// Lays out a row of buttons that may be wider than its place. Three steps: all in one row; all in one row with each
+// image button a few pixels narrower; several rows, filled from the left.
+//
+// How many rows there are depends on the width, but a sizer is asked for its least height before it has one. So it
+// answers for the width that it had last, and asks for another layout when the new width needs another height.
+
 #include "ui/WrappingRowSizer.h"
 
 #include <wx/bmpbuttn.h>
@@ -28,6 +34,7 @@ int proportionOf(const std::vector<wxSizerItem*>& items)
 
 wxSize WrappingRowSizer::CalcMin()
 {
+    // The widest item is all the width that has to be there: the rest can go on in further rows.
     int widest = 0;
     for (wxSizerItem* const item : GetChildren())
         widest = std::max(widest, item->CalcMin().x);
@@ -38,6 +45,7 @@ void WrappingRowSizer::RepositionChildren(const wxSize&)
 {
     const std::vector<Row> rows = rowsFor(m_size.x);
     const int needed = heightOf(rows);
+    // In the middle of the height: the row may be given more than its buttons need.
     wxPoint start(m_position.x, m_position.y + std::max(m_size.y - needed, 0) / 2);
     for (const Row& row : rows)
     {
@@ -54,6 +62,7 @@ std::vector<WrappingRowSizer::Row> WrappingRowSizer::rowsFor(int width) const
     const int missing = widthOf({items}) - width;
     if (missing <= 0)
         return {{items}};
+    // Rounded up, so that the last button is not cut by what is left of the division.
     if (missing <= buttons * mostNarrowing)
         return {{items, (missing + buttons - 1) / buttons}};
     return wrapped(items, width);
@@ -61,6 +70,7 @@ std::vector<WrappingRowSizer::Row> WrappingRowSizer::rowsFor(int width) const
 
 std::vector<WrappingRowSizer::Row> WrappingRowSizer::wrapped(const Items& items, int width) const
 {
+    // Where there are several rows, buttons are at their narrowest in all of them: that makes the fewest rows.
     std::vector<Row> rows{{{}, mostNarrowing}};
     for (wxSizerItem* const item : items)
     {
@@ -83,6 +93,7 @@ void WrappingRowSizer::place(const Row& row, wxPoint start) const
     for (wxSizerItem* const item : row.items)
     {
         wxSize size = item->GetMinSizeWithBorder();
+        // Room to spare goes to the stretching spacers, as in the toolkit's own sizers.
         size.x += spare * item->GetProportion() / proportions - (isImageButton(item) ? row.narrowing : 0);
         item->SetDimension(wxPoint(start.x, start.y + (height - size.y) / 2), size);
         start.x += size.x;
@@ -93,6 +104,7 @@ void WrappingRowSizer::askForHeight()
 {
     wxWindow* const window = GetContainingWindow();
     const wxSize wanted(m_size.x, GetMinSize().y);
+    // What was asked for once is not asked for again: a parent without room would be laid out for ever.
     if (wanted == m_size || wanted == asked || window->GetParent() == nullptr)
         return;
     asked = wanted;
