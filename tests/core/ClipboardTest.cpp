@@ -20,9 +20,9 @@ protected:
     void drawAt(int first, std::string_view picture) { draw(map.currentSlots(), first, picture); }
 
     /// What the user gets by selecting rows.
-    std::vector<int> selected(std::vector<int> rows) const { return collectSelection(map.currentSlots(), rows); }
+    std::vector<int> selected(const std::vector<int>& rows) const { return collectSelection(map.currentSlots(), rows); }
 
-    void copyRows(std::vector<int> rows) { copyRegisters(map, selected(std::move(rows))); }
+    void copyRows(const std::vector<int>& rows) { copyRegisters(map, selected(rows)); }
 
     /// The picture of a stretch, when every field of its slots is as drawn.
     std::string shown(int first, int count) const

@@ -19,7 +19,7 @@ std::string compressed(std::string_view picture, int from, int to, int first = 1
     return looksLike(*slots, first, result) ? result : result + " with other contents";
 }
 
-CompressResult resultOf(std::string_view picture, std::vector<int> addresses)
+CompressResult resultOf(std::string_view picture, const std::vector<int>& addresses)
 {
     const auto slots = drawnSpace(10, picture);
     const CompressResult result = compressRegisters(*slots, addresses);

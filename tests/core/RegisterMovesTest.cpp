@@ -13,7 +13,7 @@ namespace
 constexpr bool shoving = true;
 constexpr bool plain = false;
 
-MoveResult move(RegisterSlots& slots, std::vector<int> addresses, MoveDirection direction, bool shove)
+MoveResult move(RegisterSlots& slots, const std::vector<int>& addresses, MoveDirection direction, bool shove)
 {
     return moveSlots(slots, addresses, direction, shove);
 }

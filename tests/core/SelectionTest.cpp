@@ -9,7 +9,7 @@
 namespace
 {
 
-std::vector<int> select(const RegisterSlots& slots, std::vector<int> rows)
+std::vector<int> select(const RegisterSlots& slots, const std::vector<int>& rows)
 {
     return collectSelection(slots, rows);
 }
