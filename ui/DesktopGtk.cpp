@@ -45,9 +45,14 @@ void preferDark()
 void drawControlsPlainly()
 {
     // The dark theme of GTK 3.24 marks the focus by one dotted line in grey, which the yellow and the coloured buttons
-    // do not show at all, and the edge of a check box by a grey that is darker than the background.
+    // do not show at all, that of a field by one in dark blue, and the edge of a check box by a grey that is darker
+    // than the background.
     addStyle("button:focus, checkbutton:focus { outline: 2px solid currentColor; outline-offset: -2px; }"
+             "entry:focus { border-color: #3399ff; }"
              "check:not(:checked) { border-color: #b0b0b0; }");
+    // A desktop that has no dark theme draws these two for a light window: the one hardly shows, the other glares.
+    addStyle("treeview.view.expander { color: #b0b0b0; }"
+             "paned > separator { background-image: image(#333333); }");
 }
 
 void showFocusAtOnce(wxWindow& window)

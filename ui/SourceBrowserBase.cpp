@@ -19,8 +19,8 @@
 namespace
 {
 
-/// Pixels of the group filters before they scroll.
-constexpr int groupFilterHeight = 172;
+/// Rows of a grid that are as high as the group filters before they scroll.
+constexpr int groupFilterRows = 7;
 
 /// Pixels that the filter field takes at least.
 constexpr int filterWidth = 110;
@@ -106,7 +106,7 @@ void SourceBrowserBase::createGroupFilters(wxSizer& column)
     groupFilters = new QuietScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
     // By rows, as the lists.
     groupFilters->SetScrollRate(0, panelControls::rowHeight(*this));
-    groupFilters->SetMinSize(FromDIP(wxSize(-1, groupFilterHeight)));
+    groupFilters->SetMinSize(wxSize(-1, groupFilterRows * panelControls::rowHeight(*this)));
     panelControls::dress(*groupFilters, theme::groupDescription, theme::contentBackground);
     // In each row a box with the name of the group, and what the group is about.
     groupFilterSizer = new wxFlexGridSizer(2, 0, 0);

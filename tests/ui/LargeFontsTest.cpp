@@ -1,11 +1,14 @@
 // Nothing fixed is cut, whatever size the desktop gives its fonts: the tests run at several sizes.
 
 #include "tests/ui/EditorWindow.h"
+#include "tests/ui/SourceSide.h"
 #include "tests/ui/UiTest.h"
 #include "ui/grid/GridHeader.h"
 
 #include <gtest/gtest.h>
+#include <wx/checkbox.h>
 #include <wx/grid.h>
+#include <wx/scrolwin.h>
 #include <wx/stattext.h>
 
 #include <cstdlib>
@@ -93,6 +96,25 @@ TEST(LargeFonts, FixedTextsHaveRoom)
     EXPECT_GE(tags.GetColSize(2) - 4, widthInCells(tags, "255"));
 }
 
+TEST(LargeFonts, NamesAndFlagsOfUsualLengthHaveRoom)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    const wxString name = "TANK_03_LEVEL_HIGH";
+    EXPECT_GE(editor.mapGrid->GetColSize(2) - 4, widthInCells(*editor.mapGrid, name));
+    EXPECT_GE(editor.sourceGrid->GetColSize(0) - 4, widthInCells(*editor.sourceGrid, name));
+    EXPECT_GE(editor.sourceGrid->GetColSize(3) - 4, widthInCells(*editor.sourceGrid, "ALM-SET"));
+}
+
+TEST(LargeFonts, SixGroupsShowWithoutScrolling)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    const int height = groupBox(editor, "SET")->GetPosition().y - groupBox(editor, "ALM")->GetPosition().y;
+    ASSERT_GT(height, 0);
+    EXPECT_GE(editor.groupFilters->GetClientSize().GetHeight(), 6 * height);
+}
+
 TEST(LargeFonts, UsualWidthsAreTheLeast)
 {
     const PlantFiles files("");
@@ -100,6 +122,17 @@ TEST(LargeFonts, UsualWidthsAreTheLeast)
     const std::vector<int> map{20, 60, 170, 60, 40, 50, 50, 30};
     for (std::size_t column = 0; column < map.size(); ++column)
         EXPECT_GE(editor.mapGrid->GetColSize(static_cast<int>(column)), editor.FromDIP(map[column])) << column;
+}
+
+TEST(LargeFonts, FontOfTheUsualSizeKeepsTheUsualWidths)
+{
+    if (textScale() != 1.0)
+        GTEST_SKIP() << "texts are larger than usual";
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    EXPECT_EQ(editor.mapGrid->GetColSize(2), editor.FromDIP(170));
+    EXPECT_EQ(editor.sourceGrid->GetColSize(0), editor.FromDIP(170));
+    EXPECT_EQ(editor.sourceGrid->GetColSize(3), editor.FromDIP(70));
 }
 
 TEST(LargeFonts, TitlesAreWholeInAnyWidthOfTheWindow)

@@ -119,6 +119,23 @@ TEST(MainFrameFocus, EmptyGridsAreReachedToo)
     EXPECT_EQ(walk(0), readingOrder);
 }
 
+TEST(MainFrameFocus, WindowWithoutTagsLosesNoKeyboard)
+{
+    const TempFolder folder;
+    folder.write("empty.json", "{\"database_groups\": [], \"structure\": [], \"database\": []}");
+    const MessageBoxAnswer message(wxID_OK);
+    const EditorWindow& editor = *openEditor({(folder / "empty.json").string(), ""});
+    ASSERT_EQ(editor.sourceGrid->GetNumberRows(), 0);
+    std::vector<std::string> withoutGroups = readingOrder;
+    std::erase(withoutGroups, "ALM");
+    std::erase(withoutGroups, "SET");
+    EXPECT_EQ(walk(0), withoutGroups);
+    EXPECT_TRUE(editor.mapGrid->GetGridWindow()->HasFocus());
+    std::vector<std::string> back(withoutGroups.rbegin() + 1, withoutGroups.rend());
+    back.push_back(withoutGroups.back());
+    EXPECT_EQ(walk(wxMOD_SHIFT), back);
+}
+
 TEST(MainFrameFocus, ButtonReachedWithTabIsPressedWithSpace)
 {
     const PlantFiles files("");

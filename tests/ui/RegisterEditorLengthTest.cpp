@@ -40,6 +40,20 @@ TEST(RegisterEditorLength, LengthIsCheckedAgainstTheRoomWithEveryKey)
         });
 }
 
+TEST(RegisterEditorLength, LengthThatNoNumberCanHoldIsTooLong)
+{
+    EditorUnderTest editor(DataType::String, 3, {5, 60000});
+    editor.explore(
+        [&]
+        {
+            // Pasted: the field takes no key that would make the number too large.
+            editor.lengthField->SetValue("99999999999");
+            EXPECT_EQ(editor.status(), tooLong);
+            EXPECT_EQ(editor.ok(), "");
+            EXPECT_TRUE(editor.cancelButton->IsShownOnScreen());
+        });
+}
+
 TEST(RegisterEditorLength, LengthThatTakesAllTheRoomFits)
 {
     EXPECT_EQ(EditorUnderTest(DataType::String, 7, EditRoom{7, 7}).ok(), "Ok");

@@ -29,6 +29,12 @@ int extent(const wxGrid& grid, std::string_view text, const wxFont& font)
     return width + 1;
 }
 
+/// Pixels that a cell needs for a text, margins included.
+int cellExtent(const wxGrid& grid, std::string_view text)
+{
+    return extent(grid, text, grid.GetDefaultCellFont()) + 2 * RowCellRenderer::margin;
+}
+
 /// Pixels of the longest text of a column, margins included.
 int widestCell(wxGrid& grid, int column)
 {
@@ -51,7 +57,9 @@ namespace columnWidths
 int opening(const wxGrid& grid, const GridColumn& column)
 {
     // A column without a width holds what the program reads and the user does not. It stays hidden in any font.
-    return column.width == 0 ? 0 : std::max(grid.FromDIP(column.width), needed(grid, column));
+    if (column.width == 0)
+        return 0;
+    return std::max({grid.FromDIP(column.width), needed(grid, column), cellExtent(grid, column.usualText)});
 }
 
 int needed(const wxGrid& grid, const GridColumn& column)
@@ -59,8 +67,7 @@ int needed(const wxGrid& grid, const GridColumn& column)
     const int title = column.title.empty()
                           ? 0
                           : extent(grid, column.title, theme::columnTitle()) + grid.FromDIP(GridHeader::titleGap);
-    const int content = extent(grid, column.widestText, grid.GetDefaultCellFont()) + 2 * RowCellRenderer::margin;
-    return std::max(title, content);
+    return std::max(title, cellExtent(grid, column.widestText));
 }
 
 int fitting(wxGrid& grid, GridColumns columns, int index)
