@@ -28,19 +28,19 @@ void numberParts(Studio& studio, ProgramUnderTest& program, const fs::path& imag
     const Rectangle map = program.mapGrid().placeOfRows(0, 1);
     const Rectangle bar = program.placeOf("Export map to text file");
     const Rectangle status = program.placeOf("COMPRESSED");
+    // The buttons stand close together: their numbers are below them, where the row of titles has room.
+    const int titles = program.placeOf("ADDRESS").middle().y;
     const Rectangle filter = program.placeOf("Tagname and Description filter");
-    const std::vector<Point> places{
-        rightOf(program.placeOf("SOURCE"), 56),
-        rightOf(program.placeOf("DATABASE"), 85),
-        {filter.x + filter.width - 22, filter.middle().y},
-        rightOf(program.placeOf("Group Filters"), 56),
-        rightOf(program.placeOf("Show Holding Registers"), 20),
-        {(program.placeOf("Shove registers up").x + program.placeOf("Cut - ctrl x").x) / 2 + 14,
-         program.placeOf("Cut - ctrl x").middle().y},
-        {map.x + map.width - 55, window.y + 500},
-        {map.x + map.width * 2 / 5, status.middle().y},
-        {status.x - 27, status.middle().y},
-        {window.x + window.width * 7 / 16, bar.middle().y + 4}};
+    const std::vector<Point> places{rightOf(program.placeOf("SOURCE"), 56),
+                                    rightOf(program.placeOf("DATABASE"), 85),
+                                    {filter.x + filter.width - 22, filter.middle().y},
+                                    rightOf(program.placeOf("Group Filters"), 56),
+                                    {program.placeOf("Show Input Registers").middle().x, titles},
+                                    {program.placeOf("Cut - ctrl x").x, titles},
+                                    {map.x + map.width - 55, window.y + 500},
+                                    {map.x + map.width * 2 / 5, status.middle().y},
+                                    {status.x - 27, status.middle().y},
+                                    {window.x + window.width * 7 / 16, bar.middle().y + 4}};
     std::vector<Mark> marks;
     marks.reserve(places.size());
     for (const Point place : places)
