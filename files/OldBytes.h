@@ -9,5 +9,5 @@
 /// then replaced; a link of that name is replaced too, never followed. It has the file's permissions, or is for its
 /// owner alone where these cannot be given. The file itself is not touched.
 /// @return false when there is no copy of these bytes: no such file, not a regular one, unreadable, no room, a name too
-///         long, a folder that takes none. That is no reason to stop a save: the copy is a precaution only
+///         long, a folder that takes none
 bool keepOldBytes(const std::filesystem::path& path);

@@ -14,14 +14,32 @@ std::span<const std::uint8_t> bytesOf(const std::string& text)
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
-/// The text that a map has once it was read from a file of these bytes.
-std::string savedAfterReading(RegisterMap& map, std::span<const std::uint8_t> bytes)
+/// What reading a file and saving the map gives.
+struct Saved
+{
+    DefinitionLoad load;
+    std::string text;
+};
+
+Saved savedAfterReading(RegisterMap& map, std::span<const std::uint8_t> bytes)
 {
     static const TagTable noTags;
     map.initialise();
     const MemoryFile file(bytes);
-    require(loadDefinitionFile(file.path(), map, noTags), "a file that is there is read");
-    return definitionText(map);
+    const DefinitionLoad load = loadDefinitionFile(file.path(), map, noTags);
+    require(isLoaded(load), "a file that is there is read");
+    requireSoundSlots(map);
+    return {load, definitionText(map)};
+}
+
+bool sameSlots(const RegisterMap& one, const RegisterMap& other)
+{
+    for (const RegisterSpace space : allSpaces)
+    {
+        if (one.slots(space) != other.slots(space))
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -30,11 +48,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 {
     // Made once: four spaces take longer to allocate than most inputs take to read.
     static RegisterMap map;
+    static RegisterMap again;
+    const Saved first = savedAfterReading(map, {bytes, size});
+    const Saved second = savedAfterReading(again, bytesOf(first.text));
+    if (first.load == DefinitionLoad::Whole)
+    {
+        require(second.text == first.text && sameSlots(map, again), "what is written back whole is read back the same");
+        require(second.load == DefinitionLoad::Whole, "what was written back whole once always is");
+    }
     // The first saving drops what no line can carry. From then on nothing may change any more.
-    const std::string first = savedAfterReading(map, {bytes, size});
-    requireSoundSlots(map);
-    const std::string second = savedAfterReading(map, bytesOf(first));
-    if (second != first)
-        require(savedAfterReading(map, bytesOf(second)) == second, "a saved map is read back as it was");
+    if (second.text != first.text)
+        require(savedAfterReading(map, bytesOf(second.text)).text == second.text, "a saved map is read back as it was");
     return 0;
 }

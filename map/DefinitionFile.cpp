@@ -4,6 +4,7 @@
 #include "files/SafeWrite.h"
 #include "map/DefinitionReader.h"
 #include "map/PublishedName.h"
+#include "map/WrittenBack.h"
 #include "map/WrittenObjects.h"
 #include "text/Decode.h"
 #include "text/Integers.h"
@@ -11,6 +12,8 @@
 
 #include <cstdint>
 #include <new>
+#include <system_error>
+#include <utility>
 
 // A line of the file, one for each object:
 //
@@ -48,6 +51,23 @@ void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& hea
     text += nativeLineEnd;
 }
 
+bool fileExists(const std::filesystem::path& path)
+{
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored);
+}
+
+DefinitionLoad readBytes(std::string bytes, RegisterMap& map, const TagTable& tags)
+{
+    constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+    const bool marked = hasByteOrderMark(bytes);
+    const std::string text = decodeText(std::move(bytes));
+    bool whole = !marked || text.find(replacementCharacter) == std::string::npos;
+    const bool standWhole = readDefinition(
+        text, map, tags, [&whole](const DefinitionFileLine& line) { whole = whole && isWrittenBack(line); });
+    return whole && standWhole ? DefinitionLoad::Whole : DefinitionLoad::Partial;
+}
+
 } // namespace
 
 // Texts go out as they stand, neither quoted nor refused: a comma in a description makes ten fields of nine, and the
@@ -73,22 +93,21 @@ void appendDefinitionLine(std::string& text, RegisterSpace space, const Register
     text += valid ? "OK" : "ERROR";
 }
 
-bool loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags)
+DefinitionLoad loadDefinitionFile(const std::filesystem::path& path, RegisterMap& map, const TagTable& tags)
 {
     std::optional<std::string> bytes = readFile(path);
     if (!bytes)
-        return false;
+        return fileExists(path) ? DefinitionLoad::Unreadable : DefinitionLoad::NoFile;
     try
     {
-        readDefinition(decodeText(std::move(*bytes)), map, tags);
-        return true;
+        return readBytes(std::move(*bytes), map, tags);
     }
     catch (const std::bad_alloc&)
     {
         // A file too large for the memory. Half a map would look like a whole one, so none is better.
         for (const RegisterSpace space : allSpaces)
             clearSlots(map.slots(space), 0, registersPerSpace);
-        return false;
+        return DefinitionLoad::Unreadable;
     }
 }
 

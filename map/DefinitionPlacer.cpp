@@ -20,9 +20,6 @@
 namespace
 {
 
-/// As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight.
-constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
-
 /// What the slots of an object have in common, without the byte-order flags and the texts.
 RegisterEntry slotValues(const DefinitionObject& object)
 {
@@ -59,6 +56,7 @@ LineMeaning DefinitionPlacer::parseDefinitionLine(const DefinitionFields& fields
     if (const auto* const object = std::get_if<DefinitionObject>(&meaning))
     {
         waiting.push_back(*object);
+        ++taken;
         if (waiting.size() == mostWaiting)
             placeAll();
     }
@@ -88,7 +86,9 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
                          overwriteSlot(slots[address], address, values);
                          written.push_back({&slots[address], texts.size()});
                      });
-    if (written.size() > writtenBefore)
+    const auto slotsGot = static_cast<int>(written.size() - writtenBefore);
+    standWhole = standWhole && RegisterSlots::contains(object.start) && slotsGot == end - first;
+    if (slotsGot > 0)
         texts.insert(texts.end(), {object.tagname, object.description});
 
     // A flag stays set whichever line names it, so a slot takes each flag from any of the objects that cover it.

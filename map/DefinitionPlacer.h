@@ -30,7 +30,15 @@ public:
     /// Places the objects taken so far.
     void placeAll();
 
+    /// True when every object placed so far begins in its space and no other lies over it. Saving then writes a line
+    /// for each of them, and reading these lines gives the same slots.
+    bool allStandWhole() const { return standWhole && taken <= mostWaiting; }
+
 private:
+    /// As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight. When
+    /// there are more objects, some of them have a slot in common.
+    static constexpr std::size_t mostWaiting = std::size_t{spaceCount} * registersPerSpace;
+
     /// What the objects after the one being placed have left of a space.
     struct LeftOver
     {
@@ -51,6 +59,8 @@ private:
     void fillInTexts();
 
     RegisterMap& map;
+    std::size_t taken = 0;
+    bool standWhole = true;
     std::vector<DefinitionObject> waiting;
     std::vector<std::string_view> texts; ///< of the objects that have a slot
     std::vector<WrittenSlot> written;

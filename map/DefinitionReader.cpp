@@ -92,7 +92,7 @@ void readLine(DefinitionFileLine& line, DefinitionPlacer& placer, const TagTable
 
 } // namespace
 
-void readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer)
+bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer)
 {
     DefinitionPlacer placer(map);
     DefinitionFileLine line;
@@ -104,4 +104,5 @@ void readDefinition(std::string_view text, RegisterMap& map, const TagTable& tag
                     readLine(line, placer, tags, observer);
                 });
     placer.placeAll();
+    return placer.allStandWhole();
 }

@@ -28,5 +28,6 @@ using LineObserver = std::function<void(const DefinitionFileLine&)>;
 /// @param text      UTF-8, lines ended in any way
 /// @param tags      sizes the STRING objects of 6-field lines
 /// @param observer  may be empty; the map shows the objects after the last line only
+/// @return true when every object that was placed begins in its space and no other lies over it
 /// @throws std::bad_alloc when there is not enough memory; the map then holds any part of the objects
-void readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer = {});
+bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer = {});

@@ -1,8 +1,10 @@
 #include "map/Document.h"
 
+#include "files/OldBytes.h"
 #include "map/DefinitionFile.h"
 #include "map/Validation.h"
 
+#include <system_error>
 #include <utility>
 
 Document::Document(std::filesystem::path databaseFile, std::filesystem::path definitionFile, long swapFlags)
@@ -19,7 +21,9 @@ LoadResult Document::loadDatabase()
 
 void Document::loadDefinition()
 {
-    if (loadDefinitionFile(definitionPath, map, database.tags))
+    const DefinitionLoad load = loadDefinitionFile(definitionPath, map, database.tags);
+    fileHoldsMore = load == DefinitionLoad::Partial || load == DefinitionLoad::Unreadable;
+    if (isLoaded(load))
         validate();
     // Also for a map without a file: only what the user changes from here on is worth a question on leaving.
     map.takeSnapshot();
@@ -32,6 +36,16 @@ void Document::validate()
 
 bool Document::saveDefinition()
 {
-    settled = saveDefinitionFile(definitionPath, map);
+    settled = keepWhatIsLost() && saveDefinitionFile(definitionPath, map);
     return settled;
+}
+
+bool Document::keepWhatIsLost()
+{
+    std::error_code ignored;
+    if (fileHoldsMore && std::filesystem::is_regular_file(definitionPath, ignored) && !keepOldBytes(definitionPath))
+        return false;
+    // Once: from here on the file holds what a save made of it.
+    fileHoldsMore = false;
+    return true;
 }

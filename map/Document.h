@@ -31,6 +31,10 @@ public:
     void validate();
 
     /// Writes the definition file.
+    ///
+    /// When the file at the start held anything that is not written back (it could not be read, a line was dropped, a
+    /// text cut off), the first save keeps its bytes beside it, under its name with "~" behind it. Where that fails
+    /// nothing is written: the file may be their only copy, while unsaved changes go into a rescue copy.
     /// @return false when it could not be written; the file is then what it was, and the changes are still unsaved
     bool saveDefinition();
 
@@ -46,6 +50,10 @@ public:
     std::filesystem::path definitionPath; ///< empty when there is no file to save to yet
 
 private:
+    /// @return false when the file holds what a save would lose, and that could not be kept
+    bool keepWhatIsLost();
+
     std::filesystem::path databasePath;
+    bool fileHoldsMore = false;
     bool settled = false;
 };

@@ -176,6 +176,11 @@ std::string decodeLatin1(std::string_view bytes)
 
 } // namespace
 
+bool hasByteOrderMark(std::string_view bytes)
+{
+    return markOf(bytes) != nullptr;
+}
+
 std::string decodeText(std::string bytes)
 {
     const Mark* const mark = markOf(bytes);

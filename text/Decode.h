@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 /// Turns the bytes of a text file into UTF-8 without a byte-order mark.
 ///
@@ -9,3 +10,6 @@
 /// well-formed, otherwise each byte is one character of ISO 8859-1. Bytes that need no change are handed back without a
 /// copy.
 std::string decodeText(std::string bytes);
+
+/// True for bytes that begin with a byte-order mark. Only behind one does `decodeText` replace anything.
+bool hasByteOrderMark(std::string_view bytes);

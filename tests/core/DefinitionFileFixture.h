@@ -13,7 +13,10 @@ class DefinitionFileTest : public testing::Test
 {
 protected:
     /// Reads a file of these bytes into the map.
-    void load(std::string_view bytes) { EXPECT_TRUE(loadDefinitionFile(folder.write("map.csv", bytes), map, tags)); }
+    void load(std::string_view bytes)
+    {
+        EXPECT_TRUE(isLoaded(loadDefinitionFile(folder.write("map.csv", bytes), map, tags)));
+    }
 
     /// What saving the map writes.
     std::string saved() const

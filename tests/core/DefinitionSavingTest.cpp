@@ -164,7 +164,7 @@ TEST_F(DefinitionSaving, WhatWasSavedIsReadBackEqualAndSavedAlike)
     const std::string text = saved();
 
     RegisterMap again;
-    ASSERT_TRUE(loadDefinitionFile(folder.write("again.csv", text), again, tags));
+    EXPECT_EQ(loadDefinitionFile(folder.write("again.csv", text), again, tags), DefinitionLoad::Whole);
     EXPECT_TRUE(sameSlotsAs(again));
     EXPECT_EQ(definitionText(again), text);
 }

@@ -1,5 +1,7 @@
 #include "map/Document.h"
 
+#include "files/ReadFile.h"
+#include "map/DefinitionFile.h"
 #include "tests/core/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +11,27 @@ namespace
 
 constexpr std::string_view database = R"({"structure": [{"lable": "Works", "dbprefix": ""}],
  "database": [{"Name": "NAME", "Type": "String", "Size": 6, "Elements": 1}]})";
+
+constexpr std::string_view remarkAndObject = "# written by Ann\nCOIL,00007,NONE,INT16,NAME,Maker,1,UNLOCKED,ERROR\n";
+constexpr std::string_view objectAlone = "COIL,00007,NONE,INT16,NAME,Maker,1,UNLOCKED,ERROR\n";
+
+/// A document of a file of these bytes, opened and changed.
+class ChangedDocument : public testing::Test
+{
+protected:
+    Document& open(std::string_view bytes)
+    {
+        folder.write("plant.csv", bytes);
+        document.loadDefinition();
+        document.map.placeObject(RegisterSpace::Input, 4, freeSlot(4), 1);
+        return document;
+    }
+
+    TempFolder folder;
+    const std::filesystem::path file = folder / "plant.csv";
+    const std::filesystem::path oldBytes = folder / "plant.csv~";
+    Document document{"", file, 0};
+};
 
 } // namespace
 
@@ -83,4 +106,50 @@ TEST(Document, HasNoUnsavedChangesOnceTheyAreGivenUp)
     document.discardChanges();
     EXPECT_FALSE(document.hasUnsavedChanges());
     EXPECT_TRUE(document.map.isModified());
+}
+
+TEST_F(ChangedDocument, KeepsTheOldBytesOfAFileThatHeldMoreThanASaveWritesBack)
+{
+    EXPECT_TRUE(open(remarkAndObject).saveDefinition());
+    EXPECT_EQ(readFile(oldBytes), remarkAndObject);
+    EXPECT_EQ(readFile(file), definitionText(document.map));
+    EXPECT_FALSE(document.hasUnsavedChanges());
+}
+
+TEST_F(ChangedDocument, KeepsNoOldBytesOfAFileThatIsWrittenBackWhole)
+{
+    folder.write("plant.csv~", "of an earlier time");
+    EXPECT_TRUE(open(objectAlone).saveDefinition());
+    EXPECT_EQ(readFile(oldBytes), "of an earlier time");
+}
+
+TEST_F(ChangedDocument, KeepsTheOldBytesOnceAndNotWhatASaveHasMadeOfThem)
+{
+    EXPECT_TRUE(open(remarkAndObject).saveDefinition());
+    EXPECT_TRUE(document.saveDefinition());
+    EXPECT_EQ(readFile(oldBytes), remarkAndObject);
+}
+
+TEST_F(ChangedDocument, KeepsOldBytesOnlyWhenItIsSaved)
+{
+    open(remarkAndObject).discardChanges();
+    EXPECT_EQ(readFile(oldBytes), std::nullopt);
+    EXPECT_EQ(readFile(file), remarkAndObject);
+}
+
+TEST_F(ChangedDocument, IsNotWrittenOverTheOnlyCopyOfOldBytes)
+{
+    std::filesystem::create_directory(oldBytes);
+    EXPECT_FALSE(open(remarkAndObject).saveDefinition());
+    EXPECT_EQ(readFile(file), remarkAndObject);
+    EXPECT_TRUE(document.hasUnsavedChanges());
+}
+
+TEST_F(ChangedDocument, IsWrittenWhereTheFileThatHeldMoreIsGone)
+{
+    open(remarkAndObject);
+    std::filesystem::remove(file);
+    EXPECT_TRUE(document.saveDefinition());
+    EXPECT_EQ(readFile(file), definitionText(document.map));
+    EXPECT_EQ(readFile(oldBytes), std::nullopt);
 }

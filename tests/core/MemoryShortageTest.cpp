@@ -2,6 +2,7 @@
 
 #include "files/ReadFile.h"
 #include "map/DefinitionFile.h"
+#include "map/Document.h"
 #include "map/TagnameReplace.h"
 #include "tests/core/MapBuilder.h"
 #include "tests/core/MemoryLimit.h"
@@ -41,7 +42,7 @@ TEST_F(MemoryShortage, DefinitionFileThatNeedsMoreMemoryThanThereIsGivesAnEmptyM
     {
         map.initialise();
         const MemoryLimit limit(megabytes << 20U);
-        const bool loaded = loadDefinitionFile(file, map, tags);
+        const bool loaded = isLoaded(loadDefinitionFile(file, map, tags));
         EXPECT_TRUE(!loaded || megabytes > 30) << megabytes;
         EXPECT_EQ(map.isModified(), loaded) << megabytes;
         EXPECT_EQ(holding(0).used, loaded) << megabytes;
@@ -82,4 +83,21 @@ TEST_F(MemoryShortage, NamesThatNeedMoreMemoryThanThereIsChangeNothing)
     EXPECT_EQ(InternedText::known(long16Kilobytes), std::nullopt);
     EXPECT_TRUE(replaceInTagnames(*slots, addresses, "A", "B"));
     EXPECT_EQ((*slots)[19'999].tagname.view(), "B");
+}
+
+TEST_F(MemoryShortage, FileThatWasTooLargeToReadIsKeptBesideTheSavedOneOrNothingIsWritten)
+{
+    const std::filesystem::path file = folder.write("map.csv", "");
+    std::filesystem::resize_file(file, std::uintmax_t{100} << 20U);
+    Document document("", file, 0);
+    {
+        const MemoryLimit limit(std::size_t{50} << 20U);
+        document.loadDefinition();
+        document.map.placeObject(RegisterSpace::Input, 4, freeSlot(4), 1);
+        EXPECT_FALSE(document.saveDefinition());
+    }
+    EXPECT_EQ(std::filesystem::file_size(file), std::uintmax_t{100} << 20U);
+    EXPECT_TRUE(document.saveDefinition());
+    EXPECT_EQ(std::filesystem::file_size(folder / "map.csv~"), std::uintmax_t{100} << 20U);
+    EXPECT_EQ(readFile(file), definitionText(document.map));
 }

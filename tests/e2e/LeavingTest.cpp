@@ -54,6 +54,7 @@ TEST_F(Leaving, WithChangesAndYesSavesThem)
     deleteFirstRow(openMap(twoObjects));
     leaveAnswering("Yes");
     EXPECT_EQ(savedMap(), secondObject);
+    EXPECT_FALSE(fs::exists(map.string() + "~"));
 }
 
 TEST_F(Leaving, WithChangesAndNoLeavesTheFileUntouched)
@@ -85,6 +86,15 @@ TEST_F(Leaving, AWriteProtectedFileStaysAsItIsAndTheProgramEndsAllTheSame)
     deleteFirstRow(program);
     leaveAnswering("Yes");
     EXPECT_EQ(FileState(map), before);
+}
+
+TEST_F(Leaving, SavingOverADatabaseGivenAsMapByMistakeKeepsItsBytesBesideIt)
+{
+    const std::string old = contentOf(database);
+    appendFirstTag(open(database, database));
+    leaveAnswering("Yes");
+    EXPECT_EQ(contentOf(database), firstTag);
+    EXPECT_EQ(contentOf(database.string() + "~"), old);
 }
 
 TEST_F(Leaving, WithoutAnyFileNameSavingAsksForOneAndCancellingThatGoesBackToTheMap)
