@@ -1,5 +1,5 @@
-// Commands on a full space with every row selected, from the key or button to the painted view, in the program's own
-// main window.
+// Commands on a full space with every row selected, from the command to the painted view, in the program's own main
+// window.
 
 #include "benchmarks/Benchmarks.h"
 #include "benchmarks/DrivenFrame.h"
@@ -12,12 +12,12 @@
 #include <wx/textctrl.h>
 
 #include <functional>
+#include <vector>
 
 namespace
 {
 
 constexpr int half = registersPerSpace / 2;
-constexpr bool withControl = true;
 
 /// Answers what the commands ask: yes to questions, and a name that nothing has had before to the replacing dialog.
 class DialogAnswers : public wxModalDialogHook
@@ -43,54 +43,42 @@ private:
 /// What is done to the window.
 using Drive = std::function<void(DrivenFrame& frame)>;
 
-Drive nothing()
-{
-    return [](DrivenFrame&) {};
-}
+void nothing(DrivenFrame&) {}
 
 Drive select(int first, int last)
 {
     return [=](DrivenFrame& frame) { frame.selectRows(first, last); };
 }
 
-Drive selectEverySecond()
-{
-    return [](DrivenFrame& frame)
-    {
-        frame.mapRows().ClearSelection();
-        for (int row = 0; row < registersPerSpace; row += 2)
-            frame.mapRows().SelectRow(row, true);
-    };
-}
-
-Drive press(int key, bool control = false)
-{
-    return [=](DrivenFrame& frame) { frame.press(key, control); };
-}
-
-Drive click(const char* tooltip)
-{
-    return [=](DrivenFrame& frame) { frame.click(tooltip); };
-}
-
-Drive inTurn(const Drive& first, const Drive& second)
+/// Frees registers before the measurements.
+Drive cut(int first, int last)
 {
     return [=](DrivenFrame& frame)
     {
-        first(frame);
-        second(frame);
+        frame.selectRows(first, last);
+        frame.cutRegisters();
     };
 }
 
-/// What a command finds and does.
-struct Scene
+void cutEverySecond(DrivenFrame& frame)
 {
-    Drive prepare; ///< what is done to the full map before all measurements
-    Drive select;  ///< done before each of them
-    Drive command; ///< what is measured
-};
+    frame.mapRows().ClearSelection();
+    for (int row = 0; row < registersPerSpace; row += 2)
+        frame.mapRows().SelectRow(row, true);
+    frame.cutRegisters();
+}
 
-Measurement driving(const Scene& scene)
+/// Gives every register a name that the database does not know.
+void spoilNames(DrivenFrame& frame)
+{
+    frame.selectRows(0, lastAddress);
+    frame.replaceInTagnames();
+}
+
+/// Measures a command.
+/// @param prepare    done to the full map before all rounds
+/// @param selection  done before each of them
+Measurement running(const Drive& prepare, const Drive& selection, const Drive& command)
 {
     return [=](benchmark::State& state)
     {
@@ -98,20 +86,24 @@ Measurement driving(const Scene& scene)
         FrameOnScreen frame(mapOfSingleRegisters());
         RegisterMap& map = frame->registers();
         frame->showAllRegisters();
-        scene.prepare(*frame);
-        const RegistersCopy original(map);
+        prepare(*frame);
+        std::vector<RegisterSlots> original;
+        original.reserve(spaceCount);
+        for (const RegisterSpace space : allSpaces)
+            original.push_back(map.slots(space));
         map.takeSnapshot();
         measure(
             state,
             [&]
             {
-                original.restore(map);
-                scene.select(*frame);
+                for (const RegisterSpace space : allSpaces)
+                    map.slots(space) = original[static_cast<std::size_t>(space)];
+                selection(*frame);
                 handleEvents();
             },
             [&]
             {
-                scene.command(*frame);
+                command(*frame);
                 paintNow(*frame->mapRows().GetGridWindow());
             });
         if (!map.isModified() && map.clipboard.size() != registersPerSpace)
@@ -123,32 +115,27 @@ Measurement driving(const Scene& scene)
 
 void addCommandBenchmarks(ResultTable& table)
 {
-    constexpr double frameTime = 16;
     const auto add = [&](const char* work, const Drive& prepare, const Drive& selection, const Drive& command)
     {
         Row row{.work = work, .milliseconds = frameTime};
-        row.measurement = driving({prepare, selection, command});
+        row.measurement = running(prepare, selection, command);
         table.add(row);
     };
+    const auto move = [](bool shoving)
+    { return [=](DrivenFrame& frame) { frame.moveRegisters(shoving, MoveDirection::Down); }; };
     const Drive all = select(0, lastAddress);
-    const Drive cut = press('X', withControl);
-    const Drive replace = click("Tagname search and replace");
-    const Drive freeLast = inTurn(select(lastAddress, lastAddress), press(WXK_DELETE));
-    const Drive freeEverySecond = inTurn(selectEverySecond(), press(WXK_DELETE));
-    const Drive copyHalf = inTurn(select(half, lastAddress), cut); // leaves room for as much as it copies
+    const Drive freeLast = cut(lastAddress, lastAddress);
+    const Drive freeHalf = cut(half, lastAddress); // leaves room for as much as it copies
 
-    add("copy 65,536 rows", nothing(), all, press('C', withControl));
-    add("cut 65,536 rows", nothing(), all, cut);
-    add("delete 65,536 rows", nothing(), all, press(WXK_DELETE));
-    add("paste 32,768 before 32,768", copyHalf, all, press('V', withControl));
-    add("append 32,768 to 32,768", copyHalf, all, click("Append to block"));
-    add("move 65,535 rows down", freeLast, select(0, lastAddress - 1), press('='));
-    add("shove 32,768 rows through 32,767", freeLast, select(0, half - 1), press('=', withControl));
-    add("compress 65,536 rows, every second one free", freeEverySecond, all,
-        click("Compress registers into contiguous block"));
-    add("toggle the lock of 65,536 rows", nothing(), all, click("Toggle register lock"));
-    add("replace in 65,536 tagnames, new names", nothing(), all, replace);
-    add("purge 65,536 registers in error", inTurn(all, replace), all, click("Delete registers with errors"));
-    add("Ctrl+A and cut, ALL, painted", nothing(), select(0, 0), inTurn(press('A', withControl), cut));
-    add("delete of every second row, painted", nothing(), selectEverySecond(), press(WXK_DELETE));
+    add("copy 65,536 rows", nothing, all, &MainFrame::copyRegisters);
+    add("cut 65,536 rows", nothing, all, &MainFrame::cutRegisters);
+    add("delete 65,536 rows", nothing, all, &MainFrame::deleteRegisters);
+    add("paste 32,768 before 32,768", freeHalf, all, &MainFrame::pasteRegisters);
+    add("append 32,768 to 32,768", freeHalf, all, &MainFrame::appendRegisters);
+    add("move 65,535 rows down", freeLast, select(0, lastAddress - 1), move(false));
+    add("shove 32,768 rows through 32,767", freeLast, select(0, half - 1), move(true));
+    add("compress 65,536 rows, every second one free", cutEverySecond, all, &MainFrame::compressRegisters);
+    add("toggle the lock of 65,536 rows", nothing, all, &MainFrame::toggleLocks);
+    add("replace in 65,536 tagnames, new names", nothing, all, &MainFrame::replaceInTagnames);
+    add("purge 65,536 registers in error", spoilNames, all, &MainFrame::deleteErrorRegisters);
 }

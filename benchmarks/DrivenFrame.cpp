@@ -8,71 +8,49 @@
 #include <wx/grid.h>
 #include <wx/textctrl.h>
 
+#include <memory>
+
 namespace
 {
 
-/// The first window below another one that fits.
-/// @param fits  told a window, says whether it is meant
-template <class F>
-wxWindow* findBelow(const wxWindow& parent, F fits)
+/// The first control of a class below a window.
+/// @param known  passed over, with what it contains
+template <class Control>
+Control* findBelow(const wxWindow& parent, const wxWindow* known = nullptr)
 {
     for (wxWindow* const child : parent.GetChildren())
     {
-        if (fits(child))
-            return child;
-        if (wxWindow* const found = findBelow(*child, fits))
+        wxWindow& part = *child;
+        if (&part == known)
+            continue;
+        if (auto* const found = dynamic_cast<Control*>(&part))
+            return found;
+        if (auto* const found = findBelow<Control>(part, known))
             return found;
     }
     return nullptr;
 }
 
-wxWindow* findByTooltip(const wxWindow& parent, const wxString& tooltip)
-{
-    return findBelow(parent, [&](const wxWindow* window) { return window->GetToolTipText() == tooltip; });
-}
-
-wxGrid* findOtherGrid(const wxWindow& parent, const wxGrid* known)
-{
-    const auto isOther = [&](const wxWindow* window)
-    { return window != known && window->IsKindOf(wxCLASSINFO(wxGrid)); };
-    return dynamic_cast<wxGrid*>(findBelow(parent, isOther));
-}
-
-/// Waits until the screen's server has done all that it was asked for.
-void syncWithScreen()
-{
-    gdk_display_sync(gdk_display_get_default());
-}
-
 } // namespace
 
-DrivenDocument::DrivenDocument(const std::filesystem::path& database, const std::filesystem::path& definition)
-    : driven(database, definition, 0)
+LoadedPlant::LoadedPlant(const std::string& definition)
+    : document(folder.input("plant.json", fullDatabaseJson()), folder.input("map.csv", definition), 0)
 {
-    openDocument(driven);
+    openDocument(document);
 }
 
-DrivenFrame::DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition)
-    : DrivenDocument(database, definition), MainFrame(driven, "/suite/"), tagGrid(findOtherGrid(*this, mapGrid)),
-      filter(dynamic_cast<wxTextCtrl*>(findByTooltip(*this, "Tagname and Description filter")))
+DrivenFrame::DrivenFrame(const std::string& definition)
+    : LoadedPlant(definition), MainFrame(LoadedPlant::document, "/suite/"), tagGrid(findBelow<wxGrid>(*this, mapGrid)),
+      filter(findBelow<wxTextCtrl>(*this))
 {
 }
 
-void DrivenFrame::press(int key, bool control)
+void DrivenFrame::press(int key)
 {
     wxKeyEvent event(wxEVT_KEY_DOWN);
     event.SetEventObject(mapGrid);
     event.m_keyCode = key;
-    event.SetControlDown(control);
     mapGrid->GetEventHandler()->ProcessEvent(event);
-}
-
-void DrivenFrame::click(const wxString& tooltip)
-{
-    wxWindow* const button = findByTooltip(*this, tooltip);
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->GetEventHandler()->ProcessEvent(event);
 }
 
 void DrivenFrame::filterBy(const wxString& text)
@@ -82,8 +60,8 @@ void DrivenFrame::filterBy(const wxString& text)
 
 void DrivenFrame::showAllRegisters()
 {
-    while (driven.map.viewMode != ViewMode::All)
-        press(WXK_SPACE);
+    while (registers().viewMode != ViewMode::All)
+        toggleView();
 }
 
 void DrivenFrame::selectRows(int first, int last)
@@ -92,17 +70,15 @@ void DrivenFrame::selectRows(int first, int last)
     mapGrid->SelectBlock(first, 0, last, mapGrid->GetNumberCols() - 1);
 }
 
-FrameOnScreen::FrameOnScreen(const std::string& map)
+FrameOnScreen::FrameOnScreen(const std::string& definition) : frame(new DrivenFrame(definition))
 {
-    frame = new DrivenFrame(folder.input("plant.json", fullDatabaseJson()), folder.input("map.csv", map));
-    auto* const part = frame->mapRows().GetGridWindow();
     const auto painted = std::make_shared<bool>(false);
-    part->Bind(wxEVT_PAINT,
-               [painted](wxPaintEvent& event)
-               {
-                   *painted = true;
-                   event.Skip();
-               });
+    frame->mapRows().GetGridWindow()->Bind(wxEVT_PAINT,
+                                           [painted](wxPaintEvent& event)
+                                           {
+                                               *painted = true;
+                                               event.Skip();
+                                           });
     frame->Maximize();
     frame->Show();
     while (!*painted)
@@ -115,19 +91,8 @@ FrameOnScreen::~FrameOnScreen()
 {
     frame->Destroy();
     handleEvents();
-    syncWithScreen(); // whatever is shown next must not find the window still there
-}
-
-RegistersCopy::RegistersCopy(const RegisterMap& map)
-{
-    for (const RegisterSpace space : allSpaces)
-        spaces.push_back(std::make_unique<RegisterSlots>(map.slots(space)));
-}
-
-void RegistersCopy::restore(RegisterMap& map) const
-{
-    for (const RegisterSpace space : allSpaces)
-        map.slots(space) = *spaces[static_cast<std::size_t>(space)];
+    // Whatever is shown next must not find the window still there.
+    gdk_display_sync(gdk_display_get_default());
 }
 
 void handleEvents()
@@ -139,5 +104,5 @@ void handleEvents()
 void paintNow(wxWindow& window)
 {
     window.Update();
-    syncWithScreen();
+    gdk_display_sync(gdk_display_get_default());
 }

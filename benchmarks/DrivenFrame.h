@@ -1,39 +1,38 @@
 #pragma once
 
-#include "benchmarks/ScratchFiles.h"
+#include "benchmarks/ScratchFolder.h"
 #include "map/Document.h"
 #include "ui/MainFrame.h"
 
-#include <filesystem>
-#include <memory>
 #include <string>
+#include <vector>
 
 class wxGrid;
 class wxTextCtrl;
 
-/// The document of the driven window; a base class, so that it is still there when the window goes.
-struct DrivenDocument
+/// The plant of the largest size, loaded. A base class of the window, so that it is there before it and after it.
+struct LoadedPlant
 {
-    DrivenDocument(const std::filesystem::path& database, const std::filesystem::path& definition);
+    /// @param definition  text of the definition file
+    explicit LoadedPlant(const std::string& definition);
 
-    Document driven;
+    ScratchFolder folder;
+    Document document;
 };
 
-/// The main window, driven as a user does: keys to the map grid, clicks on buttons, typing into the filter.
-class DrivenFrame : private DrivenDocument, public MainFrame
+/// The main window on that plant. Its commands are run as the table of commands runs them.
+class DrivenFrame : private LoadedPlant, public MainFrame
 {
 public:
-    DrivenFrame(const std::filesystem::path& database, const std::filesystem::path& definition);
+    /// @param definition  text of the definition file
+    explicit DrivenFrame(const std::string& definition);
 
     wxGrid& mapRows() { return *mapGrid; }
     wxGrid& tagRows() { return *tagGrid; }
-    RegisterMap& registers() { return driven.map; }
+    RegisterMap& registers() { return LoadedPlant::document.map; }
 
     /// Presses a key in the map grid.
-    void press(int key, bool control = false);
-
-    /// Clicks the button that has this tooltip.
-    void click(const wxString& tooltip);
+    void press(int key);
 
     /// Puts a text into the filter field.
     void filterBy(const wxString& text);
@@ -49,12 +48,12 @@ private:
     wxTextCtrl* filter;
 };
 
-/// Shows the main window on the plant of the largest size, maximised and painted, and takes it away again.
+/// Shows the main window maximised and painted, and takes it away again.
 class FrameOnScreen
 {
 public:
-    /// @param map  text of the definition file
-    explicit FrameOnScreen(const std::string& map);
+    /// @param definition  text of the definition file
+    explicit FrameOnScreen(const std::string& definition);
     ~FrameOnScreen();
     FrameOnScreen(const FrameOnScreen&) = delete;
     FrameOnScreen& operator=(const FrameOnScreen&) = delete;
@@ -63,19 +62,7 @@ public:
     DrivenFrame& operator*() { return *frame; }
 
 private:
-    ScratchFolder folder;
-    DrivenFrame* frame = nullptr;
-};
-
-/// A copy of all registers, to go back to between two measurements.
-class RegistersCopy
-{
-public:
-    explicit RegistersCopy(const RegisterMap& map);
-    void restore(RegisterMap& map) const;
-
-private:
-    std::vector<std::unique_ptr<RegisterSlots>> spaces;
+    DrivenFrame* frame;
 };
 
 /// Handles what is waiting for the program, painting included.

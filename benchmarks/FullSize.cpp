@@ -4,12 +4,12 @@
 #include "source/TagTable.h"
 
 #include <array>
-#include <cstdio>
 #include <vector>
 
 namespace
 {
 
+/// A part of a tagname, and what it means in a description.
 struct Word
 {
     const char* code;
@@ -61,12 +61,10 @@ constexpr std::array<Aspect, 8> aspects{{{{"PV", "process value"}, "Numeric", 4,
 constexpr int tagsPerUnit = static_cast<int>(quantities.size() * aspects.size());
 constexpr int unitsPerKind = tagCapacity / tagsPerUnit / static_cast<int>(equipment.size());
 
-/// Numbers the units of one kind of equipment from 001 on; every series has its own numbers.
+/// Numbers the units of one kind of equipment; every series has its own numbers.
 std::string unitNumber(int unit, int series)
 {
-    std::array<char, 16> digits{};
-    std::snprintf(digits.data(), digits.size(), "%03d", 1 + unit % unitsPerKind + series * unitsPerKind);
-    return digits.data();
+    return std::to_string(100 + unit % unitsPerKind + series * unitsPerKind);
 }
 
 struct PlantTag
@@ -122,9 +120,8 @@ std::string group(int number)
 {
     const auto index = static_cast<std::size_t>(number);
     const Word& word = index < quantities.size() ? quantities[index] : aspects[index - quantities.size()].word;
-    std::array<char, 16> mask{};
-    std::snprintf(mask.data(), mask.size(), "%x", 1U << index);
-    return object({member("mask", mask.data()), member("flag", word.code), member("type", "flag"),
+    const std::string mask = "1248"[index % 4] + std::string(index / 4, '0'); // one bit, in hexadecimal digits
+    return object({member("mask", mask), member("flag", word.code), member("type", "flag"),
                    member("desc", std::string("Everything about ") + word.meaning)});
 }
 

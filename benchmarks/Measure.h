@@ -11,50 +11,19 @@ constexpr const char* quickestCounter = "quickest_ms";
 constexpr const char* medianCounter = "p50_ms";
 constexpr const char* slowestCounter = "p99_ms";
 
-using Seconds = std::chrono::duration<double>;
-
-/// Time that `work` takes.
-template <class W>
-Seconds timeOf(W work)
+/// Sets the counters of a measurement.
+/// @param times  seconds of each round
+inline void setTimeCounters(benchmark::State& state, std::vector<double> times)
 {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::steady_clock::now() - start;
+    if (times.empty())
+        return;
+    std::sort(times.begin(), times.end());
+    const auto milliseconds = [&](std::size_t percentile)
+    { return 1000 * times[(times.size() - 1) * percentile / 100]; };
+    state.counters[quickestCounter] = milliseconds(0);
+    state.counters[medianCounter] = milliseconds(50);
+    state.counters[slowestCounter] = milliseconds(99);
 }
-
-/// Keeps the times of the rounds of one benchmark; its counters are set when it goes.
-class Stopwatch
-{
-public:
-    explicit Stopwatch(benchmark::State& benchmarkState) : state(benchmarkState) {}
-    ~Stopwatch()
-    {
-        std::sort(times.begin(), times.end());
-        set(quickestCounter, 0);
-        set(medianCounter, 50);
-        set(slowestCounter, 99);
-    }
-    Stopwatch(const Stopwatch&) = delete;
-    Stopwatch& operator=(const Stopwatch&) = delete;
-
-    void add(Seconds time)
-    {
-        state.SetIterationTime(time.count());
-        times.push_back(time);
-    }
-
-private:
-    void set(const char* counter, std::size_t percentile)
-    {
-        if (times.empty())
-            return;
-        const Seconds time = times[(times.size() - 1) * percentile / 100];
-        state.counters[counter] = std::chrono::duration<double, std::milli>(time).count();
-    }
-
-    benchmark::State& state;
-    std::vector<Seconds> times;
-};
 
 /// Measures `work` once in each round, after a first one that does not count: the memory it needs is in reach by then.
 /// @param prepare  called before each round and not measured
@@ -63,17 +32,14 @@ void measure(benchmark::State& state, P prepare, W work)
 {
     prepare();
     work();
-    Stopwatch stopwatch(state);
+    std::vector<double> times;
     for ([[maybe_unused]] auto round : state)
     {
         prepare();
-        stopwatch.add(timeOf(work));
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        state.SetIterationTime(times.back());
     }
-}
-
-template <class W>
-void measure(benchmark::State& state, W work)
-{
-    measure(
-        state, [] {}, work);
+    setTimeCounters(state, times);
 }

@@ -4,15 +4,9 @@
 
 #include <array>
 #include <cstdio>
-#include <iomanip>
 
 namespace
 {
-
-constexpr int workWidth = 46;
-constexpr int timeWidth = 11;
-constexpr int comparisonWidth = 55;
-constexpr int limitWidth = 20;
 
 /// Three significant digits, without an exponent.
 std::string shortNumber(double value)
@@ -27,37 +21,42 @@ std::string shortNumber(double value)
     return text.data();
 }
 
-/// The parts of a cell; an empty cell shows a dash.
-std::string joined(const std::vector<std::string>& parts)
+/// The last three columns of a row, as they are found.
+struct Judgement
 {
-    std::string text;
-    for (const std::string& part : parts)
-        text += (text.empty() ? "" : ", ") + part;
-    return text.empty() ? "-" : text;
-}
+    std::string comparison;
+    std::string limits;
+    bool reached = true;
 
-std::string limitsOf(const Row& row)
-{
-    std::vector<std::string> limits;
-    if (row.milliseconds)
-        limits.push_back("< " + shortNumber(*row.milliseconds) + " ms");
-    if (row.ratio)
-        limits.push_back("< " + shortNumber(*row.ratio) + "x");
-    if (row.residentMb)
-        limits.push_back("< " + shortNumber(*row.residentMb) + " MB");
-    return joined(limits);
-}
+    void compare(const std::string& part) { comparison += (comparison.empty() ? "" : ", ") + part; }
 
-/// Whether a value keeps to its limit; a row without that limit keeps to it.
-bool isBelow(double value, const std::optional<double>& limit)
+    void judge(double value, const std::optional<double>& limit, const char* unit)
+    {
+        if (!limit)
+            return;
+        limits += (limits.empty() ? "< " : ", < ") + shortNumber(*limit) + unit;
+        reached = reached && value < *limit;
+    }
+
+    const char* answer() const
+    {
+        if (limits.empty())
+            return "-";
+        return reached ? "yes" : "NO";
+    }
+};
+
+std::string orDash(const std::string& cell)
 {
-    return !limit || value < *limit;
+    return cell.empty() ? "-" : cell;
 }
 
 void printLine(std::ostream& out, const std::array<std::string, 5>& cells)
 {
-    out << std::left << std::setw(workWidth) << cells[0] << std::right << std::setw(timeWidth) << cells[1] << "  "
-        << std::left << std::setw(comparisonWidth) << cells[2] << std::setw(limitWidth) << cells[3] << cells[4] << '\n';
+    std::array<char, 256> line{};
+    std::snprintf(line.data(), line.size(), "%-46s%11s  %-55s%-20s%s\n", cells[0].c_str(), cells[1].c_str(),
+                  cells[2].c_str(), cells[3].c_str(), cells[4].c_str());
+    out << line.data();
 }
 
 } // namespace
@@ -90,21 +89,18 @@ void ResultTable::ReportRuns(const std::vector<Run>& runs)
             GetErrorStream() << run.benchmark_name() << ": " << run.error_message << '\n';
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
-        Counters& lowest = results[run.run_name.function_name];
         for (const auto& [name, value] : run.counters)
         {
-            const auto [known, first] = lowest.try_emplace(name, value.value);
-            known->second = first ? value.value : std::min(known->second, value.value);
+            const auto known = lowest.try_emplace({run.run_name.function_name, name}, value.value).first;
+            known->second = std::min(known->second, value.value);
         }
     }
 }
 
 std::optional<double> ResultTable::counter(const std::string& benchmark, const std::string& name) const
 {
-    const auto counters = results.find(benchmark);
-    if (counters == results.end() || !counters->second.contains(name))
-        return std::nullopt;
-    return counters->second.at(name);
+    const auto found = lowest.find({benchmark, name});
+    return found == lowest.end() ? std::nullopt : std::optional(found->second);
 }
 
 void ResultTable::Finalize()
@@ -119,25 +115,25 @@ void ResultTable::Finalize()
 void ResultTable::printRow(const Row& row)
 {
     const std::string work = row.work + "/work";
-    const auto time = counter(work, row.shown == Shown::Quickest ? quickestCounter : slowestCounter);
+    const auto time = counter(work, row.events ? slowestCounter : quickestCounter);
     if (!time)
         return;
-    const double yardstick = counter(row.work + "/yardstick", quickestCounter).value_or(*time);
-    const double ratio = *time / yardstick;
-    const double resident = counter(work, "rss_mb").value_or(0);
-
-    std::vector<std::string> comparison;
-    if (row.shown == Shown::Slowest)
-        comparison.push_back("half of the events below " + shortNumber(*counter(work, medianCounter)));
+    Judgement judgement;
+    judgement.judge(*time, row.milliseconds, " ms");
+    if (row.events)
+        judgement.compare("half of the events below " + shortNumber(counter(work, medianCounter).value_or(0)));
     if (row.yardstickMeasurement)
-        comparison.push_back(shortNumber(ratio) + "x " + row.yardstick + " (" + shortNumber(yardstick) + ")");
+    {
+        const double yardstick = counter(row.work + "/yardstick", quickestCounter).value_or(*time);
+        judgement.compare(shortNumber(*time / yardstick) + "x " + row.yardstick + " (" + shortNumber(yardstick) + ")");
+        judgement.judge(*time / yardstick, row.ratio, "x");
+    }
     if (row.residentMb)
-        comparison.push_back(shortNumber(resident) + " MB");
-
-    const std::string limits = limitsOf(row);
-    const bool reached =
-        isBelow(*time, row.milliseconds) && isBelow(ratio, row.ratio) && isBelow(resident, row.residentMb);
-    const char* const answer = reached ? "yes" : "NO";
-    printLine(GetOutputStream(),
-              {row.work, shortNumber(*time), joined(comparison), limits, limits == "-" ? limits : answer});
+    {
+        const double resident = counter(work, "rss_mb").value_or(0);
+        judgement.compare(shortNumber(resident) + " MB");
+        judgement.judge(resident, row.residentMb, " MB");
+    }
+    printLine(GetOutputStream(), {row.work, shortNumber(*time), orDash(judgement.comparison), orDash(judgement.limits),
+                                  judgement.answer()});
 }

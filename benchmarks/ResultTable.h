@@ -11,24 +11,23 @@
 /// A benchmark function that calls `measure`.
 using Measurement = std::function<void(benchmark::State&)>;
 
-/// Which of its rounds a row shows and judges.
-enum class Shown
-{
-    Quickest, ///< of all repetitions: whatever else runs on the machine only ever adds time
-    Slowest   ///< what 99 of 100 rounds kept below, for events that come one after the other
-};
+/// Milliseconds between two pictures of a screen: what takes less is not felt.
+constexpr double frameTime = 16;
 
 /// A piece of work and what it has to reach; without any limit it is for information.
+///
+/// What is shown and judged is the quickest round, since whatever else runs on the machine only adds time; of events
+/// that come one after the other it is what 99 of 100 kept below.
 struct Row
 {
     std::string work; ///< first column; names the benchmarks "<work>/work" and "<work>/yardstick"
     Measurement measurement{};
-    int rounds = 10; ///< in one repetition
-    Shown shown = Shown::Quickest;
+    int rounds = 10;                      ///< in one repetition
+    bool events = false;                  ///< each round is an event of its own
     std::string yardstick{};              ///< what it is measured against, in words
     Measurement yardstickMeasurement{};   ///< none when there is no yardstick
     std::optional<double> milliseconds{}; ///< takes less than that
-    std::optional<double> ratio{};        ///< takes at most so many times as long as the yardstick
+    std::optional<double> ratio{};        ///< takes less than so many times as long as the yardstick
     std::optional<double> residentMb{};   ///< the counter "rss_mb" shows less than that
 };
 
@@ -46,11 +45,9 @@ public:
     void Finalize() override;
 
 private:
-    using Counters = std::map<std::string, double>;
-
     void printRow(const Row& row);
     std::optional<double> counter(const std::string& benchmark, const std::string& name) const;
 
     std::vector<Row> rows;
-    std::map<std::string, Counters> results; ///< the lowest value of each counter, by benchmark
+    std::map<std::pair<std::string, std::string>, double> lowest; ///< of each benchmark's counters
 };

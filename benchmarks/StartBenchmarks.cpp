@@ -3,7 +3,7 @@
 #include "benchmarks/Benchmarks.h"
 #include "benchmarks/FullSize.h"
 #include "benchmarks/Measure.h"
-#include "benchmarks/ScratchFiles.h"
+#include "benchmarks/ScratchFolder.h"
 #include "tests/e2e/PrivateScreen.h"
 #include "tests/e2e/Process.h"
 
