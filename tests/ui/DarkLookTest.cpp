@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/checkbox.h>
+#include <wx/textctrl.h>
 
 #include <algorithm>
 
@@ -21,6 +22,13 @@ double contrastOfBox(const wxCheckBox& box)
 {
     const int side = std::min(box.GetClientSize().GetWidth(), box.GetClientSize().GetHeight());
     return ScreenPicture(box, wxRect(0, 0, side, side)).contrast();
+}
+
+/// The contrast of the left edge of a field, without its text and without its corners.
+double contrastOfEdge(const wxTextCtrl& field)
+{
+    const wxSize size = field.GetClientSize();
+    return ScreenPicture(field, wxRect(0, size.y / 3, 5, size.y / 3)).contrast();
 }
 
 } // namespace
@@ -44,4 +52,14 @@ TEST(DarkLook, CheckBoxOfADialogIsSeenWhileItIsNotTicked)
                  EXPECT_TRUE(waitUntil([&] { return contrastOfBox(box) >= visible; })) << contrastOfBox(box);
                  pressKey(WXK_ESCAPE);
              });
+}
+
+TEST(DarkLook, FilterThatHasTheKeyboardHasAPlainEdge)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    ASSERT_LT(contrastOfEdge(*editor.sourceFilter), visible);
+    editor.sourceFilter->SetFocus();
+    EXPECT_TRUE(waitUntil([&] { return contrastOfEdge(*editor.sourceFilter) >= visible; }))
+        << contrastOfEdge(*editor.sourceFilter);
 }
