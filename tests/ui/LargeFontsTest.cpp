@@ -124,17 +124,6 @@ TEST(LargeFonts, UsualWidthsAreTheLeast)
         EXPECT_GE(editor.mapGrid->GetColSize(static_cast<int>(column)), editor.FromDIP(map[column])) << column;
 }
 
-TEST(LargeFonts, FontOfTheUsualSizeKeepsTheUsualWidths)
-{
-    if (textScale() != 1.0)
-        GTEST_SKIP() << "texts are larger than usual";
-    const PlantFiles files("");
-    const EditorWindow& editor = *openEditor(files.startup());
-    EXPECT_EQ(editor.mapGrid->GetColSize(2), editor.FromDIP(170));
-    EXPECT_EQ(editor.sourceGrid->GetColSize(0), editor.FromDIP(170));
-    EXPECT_EQ(editor.sourceGrid->GetColSize(3), editor.FromDIP(70));
-}
-
 TEST(LargeFonts, TitlesAreWholeInAnyWidthOfTheWindow)
 {
     const PlantFiles files("");
