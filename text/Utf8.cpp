@@ -59,7 +59,7 @@ void appendCharacter(std::string& text, char32_t codePoint)
 {
     const auto wanted = static_cast<utf8proc_int32_t>(codePoint);
     // The library writes surrogates as if they were characters, so they are sorted out before.
-    const bool isCharacter = codePoint <= 0x10FFFF && utf8proc_codepoint_valid(wanted);
+    const bool isCharacter = utf8proc_codepoint_valid(wanted);
     std::array<utf8proc_uint8_t, 4> bytes;
     const auto length =
         utf8proc_encode_char(isCharacter ? wanted : static_cast<utf8proc_int32_t>(replacementCharacter), bytes.data());

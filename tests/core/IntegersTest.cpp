@@ -14,6 +14,8 @@ TEST(ParseInteger, ReadsDigitsUpToTheFirstOtherCharacter)
     EXPECT_EQ(parseInteger("12.9"), 12);
     EXPECT_EQ(parseInteger("7 8"), 7);
     EXPECT_EQ(parseInteger("0x10"), 0);
+    EXPECT_EQ(parseInteger("12:5"), 12);
+    EXPECT_EQ(parseInteger("12/5"), 12);
 }
 
 TEST(ParseInteger, LeadingZerosAreNotOctal)
