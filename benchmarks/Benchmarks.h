@@ -8,3 +8,4 @@ void addCommandBenchmarks(ResultTable& table);
 void addViewBenchmarks(ResultTable& table);
 void addFileBenchmarks(ResultTable& table);
 void addStartBenchmarks(ResultTable& table);
+void addToolBenchmarks(ResultTable& table);

@@ -34,6 +34,7 @@ void runBenchmarks()
     addViewBenchmarks(table);
     addFileBenchmarks(table);
     addStartBenchmarks(table);
+    addToolBenchmarks(table);
     benchmark::RunSpecifiedBenchmarks(&table);
 }
 

@@ -6,13 +6,9 @@
 #include <fstream>
 #include <system_error>
 
-namespace
+void appendRest(std::streambuf& file, std::string& bytes)
 {
-
-/// Appends what is left of the file. A block that stays in the processor's cache is cheaper than a text
-/// of the file's size that is first filled with zeros.
-void appendRest(std::filebuf& file, std::string& bytes)
-{
+    // A block that stays in the processor's cache is cheaper than a text of the file's size first filled with zeros.
     std::array<char, 65536> block;
     for (;;)
     {
@@ -22,8 +18,6 @@ void appendRest(std::filebuf& file, std::string& bytes)
         bytes.append(block.data(), static_cast<std::size_t>(length));
     }
 }
-
-} // namespace
 
 std::optional<std::string> readFile(const std::filesystem::path& path)
 {

@@ -38,23 +38,24 @@ LoadResult takeOver(TagDatabaseBuilder& built, TagDatabase& database)
 
 } // namespace
 
-LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& database)
+LoadResult readTagDatabase(std::string bytes, TagDatabase& database)
+try
 {
     // The database is built aside, so that a file that is not JSON costs nothing of what was there.
-    auto bytes = readFile(path);
-    if (!bytes)
-        return LoadResult::FileNotFound;
-    try
-    {
-        TagDatabaseBuilder built;
-        if (!readTolerantJson(decodeText(std::move(*bytes)), built))
-            return LoadResult::BadJson;
-        return takeOver(built, database);
-    }
-    catch (const std::exception&) // a file too large for the memory
-    {
+    TagDatabaseBuilder built;
+    if (!readTolerantJson(decodeText(std::move(bytes)), built))
         return LoadResult::BadJson;
-    }
+    return takeOver(built, database);
+}
+catch (const std::exception&) // a file too large for the memory
+{
+    return LoadResult::BadJson;
+}
+
+LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& database)
+{
+    auto bytes = readFile(path);
+    return bytes ? readTagDatabase(std::move(*bytes), database) : LoadResult::FileNotFound;
 }
 
 std::string_view loadMessage(LoadResult result)

@@ -3,6 +3,7 @@
 #include "source/TagDatabase.h"
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 /// How loading ended: `Loaded`, or the first thing that was missing.
@@ -24,6 +25,9 @@ enum class LoadResult
 /// @param path      any path; anything but a readable regular file counts as not found
 /// @param database  receives what the file holds
 LoadResult loadTagDatabase(const std::filesystem::path& path, TagDatabase& database);
+
+/// The same for the bytes of a file, which are never `FileNotFound`.
+LoadResult readTagDatabase(std::string bytes, TagDatabase& database);
 
 /// What the user is told; the empty text for `Loaded`.
 std::string_view loadMessage(LoadResult result);

@@ -1,16 +1,25 @@
-# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> json -> files -> text;
-# and that nothing below ui/ includes a toolkit header.
+# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> json -> files -> text, and
+# beside the windows tool -> review -> map; and that no header of the toolkit is included outside ui/ and app/.
 # Run as a script: cmake -DSOURCE_DIR=dir -P layers.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
-set(layers text files json source map ui app)
-set(toolkit_layers ui app)
+# Each folder of the core may include those before it, and every folder above may include all of them.
+set(core text files json source map)
 set(below "")
-set(offences "")
-foreach(layer IN LISTS layers)
+foreach(layer IN LISTS core)
     list(APPEND below "${layer}")
-    list(JOIN below "|" allowed)
+    set(allowed_${layer} ${below})
+endforeach()
+set(allowed_ui ${core} ui)
+set(allowed_app ${core} ui app)
+set(allowed_review ${core} review)
+set(allowed_tool ${core} review tool)
+
+set(toolkit_layers ui app)
+set(offences "")
+foreach(layer IN LISTS core ITEMS ui app review tool)
+    list(JOIN allowed_${layer} "|" allowed)
     file(GLOB_RECURSE files "${SOURCE_DIR}/${layer}/*.h" "${SOURCE_DIR}/${layer}/*.cpp")
     foreach(path IN LISTS files)
         file(STRINGS "${path}" includes REGEX "^#include \"")
@@ -28,5 +37,5 @@ foreach(layer IN LISTS layers)
     endforeach()
 endforeach()
 if(offences)
-    message(FATAL_ERROR "Includes that point upwards, or at the toolkit from below ui/:\n${offences}")
+    message(FATAL_ERROR "Includes that point upwards, or at the toolkit from outside ui/ and app/:\n${offences}")
 endif()

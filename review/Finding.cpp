@@ -1,0 +1,39 @@
+#include "review/Finding.h"
+
+#include <array>
+
+namespace
+{
+
+struct RuleFacts
+{
+    std::string_view name;
+    Severity severity;
+};
+
+constexpr std::array<RuleFacts, ruleCount> facts{{{"dropped-line", Severity::Error},
+                                                  {"blank-line", Severity::Warning},
+                                                  {"bad-number", Severity::Error},
+                                                  {"cut-off", Severity::Error},
+                                                  {"overlap", Severity::Error},
+                                                  {"brace", Severity::Error},
+                                                  {"unknown-tag", Severity::Error},
+                                                  {"bad-type", Severity::Error},
+                                                  {"bad-write", Severity::Error},
+                                                  {"unknown-type", Severity::Warning},
+                                                  {"bit-space", Severity::Warning},
+                                                  {"other-form", Severity::Warning},
+                                                  {"order", Severity::Warning},
+                                                  {"encoding", Severity::Warning}}};
+
+} // namespace
+
+std::string_view ruleName(Rule rule)
+{
+    return facts[static_cast<std::size_t>(rule)].name;
+}
+
+Severity severityOf(Rule rule)
+{
+    return facts[static_cast<std::size_t>(rule)].severity;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "map/RegisterMap.h"
+#include "review/LineOwners.h"
+
+/// What saving would change though nothing is wrong: short forms, other spellings, other places, other bytes.
+
+/// Appends a warning for each line that saving writes in another form. Lines about which something is said already
+/// are left out: mending that may change their form too.
+/// @param map  as the lines fill it, validated
+void appendOtherForms(Findings& findings, const PlacedLines& lines, const LineOwners& owners, const RegisterMap& map);
+
+/// Appends a warning for the first line that saving writes before the line above it.
+void appendFirstOutOfOrder(Findings& findings, const PlacedLines& lines);
+
+/// Appends a warning when saving writes other bytes for the same text: another encoding, other line ends.
+/// @param bytes  the file's own
+/// @param text   what they were decoded to
+void appendEncoding(Findings& findings, std::string_view bytes, std::string_view text);

@@ -1,0 +1,145 @@
+#include "review/LineFindings.h"
+
+#include "map/PublishedName.h"
+#include "text/Characters.h"
+#include "text/Integers.h"
+
+#include <algorithm>
+#include <string>
+
+namespace
+{
+
+std::string inQuotes(std::string_view text)
+{
+    return '"' + std::string(text) + '"';
+}
+
+std::string fieldCountMessage(const DefinitionFileLine& line)
+{
+    constexpr std::size_t fullForm = 9;
+    if (line.fieldCount > fullForm)
+        return "dropped: more than 9 fields; is there a comma in the tagname or description?";
+    std::string message = "dropped: " + std::to_string(line.fieldCount);
+    message += line.fieldCount == 1 ? " field" : " fields";
+    return message + " where an object has 9, 7 or 6";
+}
+
+std::string faultMessage(const DefinitionFileLine& line, LineFault fault)
+{
+    switch (fault)
+    {
+    case LineFault::FieldCount:
+        return fieldCountMessage(line);
+    case LineFault::UnknownSpace:
+        return "dropped: " + inQuotes(line.fields.space) + " is none of COIL, INPUT, STATUS, HOLDING";
+    case LineFault::DottedTagname:
+        return "dropped: the tagname holds a \".\" and does not end in \".1\"";
+    case LineFault::NoRegisters:
+        return "dropped: a STRING of " + inQuotes(line.fields.count) + " registers has none";
+    }
+    return "dropped";
+}
+
+/// True for what is read as the number that it looks like.
+bool isWholeNumber(std::string_view text)
+{
+    text = withoutLeadingBlanks(text);
+    if (text.starts_with('-') || text.starts_with('+'))
+        text.remove_prefix(1);
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+void append(Findings& findings, const PlacedLine& placed, Rule rule, std::string message)
+{
+    Finding finding = findingAbout(placed, rule);
+    finding.message = std::move(message);
+    findings.push_back(std::move(finding));
+}
+
+void appendNumberFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
+{
+    if (!isWholeNumber(line.fields.address))
+        append(findings, placed, Rule::BadNumber,
+               "the address " + inQuotes(line.fields.address) + " is read as " + std::to_string(placed.object.start));
+    constexpr std::size_t formWithCount = 7;
+    if (line.fieldCount >= formWithCount && !isWholeNumber(line.fields.count))
+        append(findings, placed, Rule::BadNumber,
+               "the register count " + inQuotes(line.fields.count) +
+                   " is no number; is there a comma in the description?");
+}
+
+/// Addresses of registers; one alone or first and last.
+std::string range(std::int64_t first, std::int64_t last)
+{
+    return first == last ? std::to_string(first) : std::to_string(first) + " to " + std::to_string(last);
+}
+
+void appendCutOffFinding(Findings& findings, const PlacedLine& placed)
+{
+    const DefinitionObject& object = placed.object;
+    const std::int64_t last = std::int64_t{object.start} + object.count - 1;
+    if (object.start >= 0 && last <= lastAddress)
+        return;
+    const std::string registers = "registers " + range(object.start, last);
+    const bool anyInside = object.firstAddress() < object.endAddress();
+    append(findings, placed, Rule::CutOff,
+           anyInside ? "cut off: of " + registers + ", only " +
+                           range(object.firstAddress(), std::int64_t{object.endAddress()} - 1) + " lie in the space"
+                     : "cut off: " + registers + " lie outside 0 to 65535");
+}
+
+bool isBitSpace(RegisterSpace space)
+{
+    return space == RegisterSpace::Coil || space == RegisterSpace::Status;
+}
+
+} // namespace
+
+Finding findingAbout(const PlacedLine& line, Rule rule)
+{
+    Finding finding;
+    finding.rule = rule;
+    finding.line = line.number;
+    finding.space = spaceKeyword(line.object.space);
+    finding.address = line.object.start;
+    finding.tagname = line.object.tagname;
+    return finding;
+}
+
+Finding droppedLineFinding(const DefinitionFileLine& line, LineFault fault)
+{
+    Finding finding;
+    finding.line = line.number;
+    if (line.text.empty())
+    {
+        finding.rule = Rule::BlankLine;
+        finding.message = "blank line, gone after saving";
+        return finding;
+    }
+    // With fewer fields there is no telling which of them stands for what.
+    constexpr std::size_t fieldsOfAnObject = 6;
+    if (line.fieldCount >= fieldsOfAnObject)
+    {
+        finding.space = line.fields.space;
+        finding.address = parseInteger(line.fields.address);
+        finding.tagname = line.fields.tagname;
+    }
+    finding.message = faultMessage(line, fault);
+    return finding;
+}
+
+void appendLineFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
+{
+    const DefinitionObject& object = placed.object;
+    appendNumberFindings(findings, line, placed);
+    appendCutOffFinding(findings, placed);
+    if (object.description.size() < line.fields.description.size())
+        append(findings, placed, Rule::Brace,
+               "the description is read up to its \"{\" only, as " + inQuotes(object.description));
+    if (typeName(object.type) != line.fields.type)
+        append(findings, placed, Rule::UnknownType, "the type " + inQuotes(line.fields.type) + " is read as INT16");
+    if (isBitSpace(object.space) && object.type != DataType::Int16)
+        append(findings, placed, Rule::BitSpace,
+               "a " + std::string(typeName(object.type)) + " in a space of single bits");
+}

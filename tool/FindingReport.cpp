@@ -1,0 +1,144 @@
+#include "tool/FindingReport.h"
+
+#include "text/Integers.h"
+#include "text/Lines.h"
+#include "tool/JsonText.h"
+
+namespace
+{
+
+std::string_view severityWord(Severity severity)
+{
+    return severity == Severity::Error ? "error" : "warning";
+}
+
+/// "SPACE ADDRESS TAGNAME: " as far as the line tells them.
+std::string objectName(const Finding& finding)
+{
+    if (finding.space.empty() || !finding.address)
+        return {};
+    std::string name = finding.space + ' ';
+    name += *finding.address < 0 ? std::to_string(*finding.address)
+                                 : addressText(static_cast<std::uint32_t>(*finding.address));
+    if (!finding.tagname.empty())
+        name += ' ' + finding.tagname;
+    return name + ": ";
+}
+
+void appendTextLine(std::string& text, const FindingReport& report, const Finding& finding, const Style& style)
+{
+    const Severity severity = report.severity(finding);
+    style.append(text, Tone::Place, printable(report.file + ':' + std::to_string(finding.line) + ':'));
+    text += ' ' + printable(objectName(finding));
+    style.append(text, severity == Severity::Error ? Tone::Error : Tone::Warning, severityWord(severity));
+    text += ": " + printable(finding.message) + " [";
+    text += ruleName(finding.rule);
+    text += ']';
+    text += nativeLineEnd;
+}
+
+void writeFinding(JsonText& json, const Finding& finding, Severity severity)
+{
+    json.beginObject();
+    json.member("line", finding.line);
+    json.member("severity", severityWord(severity));
+    json.member("rule", ruleName(finding.rule));
+    if (!finding.space.empty())
+        json.member("space", finding.space);
+    if (finding.address)
+        json.member("address", *finding.address);
+    if (!finding.space.empty())
+        json.member("tagname", finding.tagname);
+    json.member("message", finding.message);
+    if (finding.otherLine > 0)
+        json.member("otherLine", finding.otherLine);
+    if (!finding.suggestion.empty())
+        json.member("suggestion", finding.suggestion);
+    if (finding.marks > 0)
+        json.member("marks", finding.marks);
+    json.endObject();
+}
+
+/// Text inside a workflow command: line ends would end it, and inside a property so would colon and comma.
+std::string escapedForGitHub(std::string_view text, bool isProperty)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const std::string_view special = isProperty ? "%\r\n:," : "%\r\n";
+    std::string escaped;
+    for (const char c : text)
+    {
+        if (special.find(c) == std::string_view::npos)
+        {
+            escaped += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        escaped += {'%', digits[byte / digits.size()], digits[byte % digits.size()]};
+    }
+    return escaped;
+}
+
+std::string counted(int count, const std::string& noun)
+{
+    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+} // namespace
+
+FindingReport::Counts FindingReport::counts() const
+{
+    Counts counts;
+    for (const Finding& finding : findings)
+    {
+        ++(severity(finding) == Severity::Error ? counts.errors : counts.warnings);
+        counts.marks += finding.marks;
+    }
+    return counts;
+}
+
+std::string findingsAsText(const FindingReport& report, const Style& style)
+{
+    std::string text;
+    for (const Finding& finding : report.findings)
+        appendTextLine(text, report, finding, style);
+    return text;
+}
+
+std::string findingsAsJson(const FindingReport& report)
+{
+    const FindingReport::Counts counts = report.counts();
+    JsonText json;
+    json.beginObject();
+    json.member("file", report.file);
+    json.member("errors", counts.errors);
+    json.member("warnings", counts.warnings);
+    json.member("marks", counts.marks);
+    json.key("findings");
+    json.beginArray();
+    for (const Finding& finding : report.findings)
+        writeFinding(json, finding, report.severity(finding));
+    json.endArray();
+    json.endObject();
+    return json.take();
+}
+
+std::string findingsForGitHub(const FindingReport& report)
+{
+    std::string text;
+    for (const Finding& finding : report.findings)
+    {
+        text += "::" + std::string(severityWord(report.severity(finding)));
+        text += " file=" + escapedForGitHub(report.file, true) + ",line=" + std::to_string(finding.line);
+        text += ",title=" + std::string(ruleName(finding.rule)) + "::";
+        text += escapedForGitHub(objectName(finding) + finding.message, false);
+        text += nativeLineEnd;
+    }
+    return text;
+}
+
+std::string summary(const FindingReport& report)
+{
+    const FindingReport::Counts counts = report.counts();
+    return report.file + ": " + counted(counts.errors, "error") + ", " + counted(counts.warnings, "warning") + ", " +
+           counted(counts.marks, "error mark") + " in the editor";
+}

@@ -1,0 +1,95 @@
+#include "tool/Inputs.h"
+
+#include "files/ReadFile.h"
+#include "map/DefinitionReader.h"
+#include "source/TagDatabaseLoader.h"
+#include "text/Decode.h"
+#include "tool/Messages.h"
+
+#include <cerrno>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <system_error>
+#include <utility>
+#include <variant>
+
+namespace
+{
+
+constexpr std::string_view standardInput = "-";
+
+std::optional<std::string> cannotRead(const std::string& path, const std::string& reason)
+{
+    tell(shownPath(path) + ": cannot be read: " + reason);
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string shownPath(const std::string& path)
+{
+    return path == standardInput ? "<stdin>" : path;
+}
+
+std::optional<std::string> readInput(const std::string& path)
+try
+{
+    std::string bytes;
+    if (path == standardInput)
+    {
+        appendRest(*std::cin.rdbuf(), bytes);
+        return bytes;
+    }
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        return cannotRead(path, "it is a folder");
+    std::filebuf file;
+    // Pipes are welcome: scripts name them where a file would be.
+    if (file.open(path, std::ios::in | std::ios::binary) == nullptr)
+        return cannotRead(path, std::generic_category().message(errno));
+    if (const auto size = std::filesystem::file_size(path, error); !error)
+        bytes.reserve(size);
+    appendRest(file, bytes);
+    return bytes;
+}
+catch (const std::exception& error)
+{
+    return cannotRead(path, error.what());
+}
+
+bool readDatabase(const std::string& path, TagDatabase& database)
+{
+    if (path.empty())
+        return true;
+    std::optional<std::string> bytes = readInput(path);
+    if (!bytes)
+        return false;
+    const LoadResult result = readTagDatabase(std::move(*bytes), database);
+    if (result == LoadResult::Loaded)
+        return true;
+    std::string_view message = loadMessage(result);
+    message.remove_suffix(1); // its line end
+    tell(shownPath(path) + ": " + std::string(message));
+    return false;
+}
+
+bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map)
+{
+    std::optional<std::string> bytes = readInput(path);
+    if (!bytes)
+        return false;
+    const std::string text = decodeText(std::move(*bytes));
+    int dropped = 0;
+    readDefinition(text, map, tags,
+                   [&](const DefinitionFileLine& line)
+                   {
+                       if (!line.text.empty() && std::holds_alternative<LineFault>(line.meaning))
+                           ++dropped;
+                   });
+    if (dropped > 0)
+        tell(shownPath(path) + ": lines left out as the editor does: " + std::to_string(dropped) +
+             "; tolvane-map check says why");
+    return true;
+}

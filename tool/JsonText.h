@@ -1,0 +1,61 @@
+#pragma once
+
+#include "text/Decode.h"
+#include "text/Lines.h"
+
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+
+#include <string>
+#include <string_view>
+
+/// Writes JSON for tools, indented so that people can read it too.
+class JsonText
+{
+public:
+    JsonText() { writer.SetIndent(' ', 1); }
+
+    void beginObject() { writer.StartObject(); }
+    void endObject() { writer.EndObject(); }
+    void beginArray() { writer.StartArray(); }
+    void endArray() { writer.EndArray(); }
+
+    void key(std::string_view name) { writer.Key(name.data(), lengthOf(name)); }
+
+    /// @param utf8  bytes that are none are taken for ISO 8859-1, since paths may be any bytes
+    void text(std::string_view utf8)
+    {
+        const std::string decoded = decodeText(std::string(utf8));
+        writer.String(decoded.data(), lengthOf(decoded));
+    }
+
+    void number(std::int64_t value) { writer.Int64(value); }
+    void boolean(bool value) { writer.Bool(value); }
+
+    void member(std::string_view name, std::string_view value)
+    {
+        key(name);
+        text(value);
+    }
+
+    void member(std::string_view name, std::int64_t value)
+    {
+        key(name);
+        number(value);
+    }
+
+    void memberIs(std::string_view name, bool value)
+    {
+        key(name);
+        boolean(value);
+    }
+
+    /// What was written, with a line end after it.
+    std::string take() const { return std::string(buffer.GetString(), buffer.GetSize()) + std::string(nativeLineEnd); }
+
+private:
+    static rapidjson::SizeType lengthOf(std::string_view text) { return static_cast<rapidjson::SizeType>(text.size()); }
+
+    rapidjson::StringBuffer buffer;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer{buffer};
+};

@@ -1,0 +1,22 @@
+#include "tool/Messages.h"
+
+#include "tool/Style.h"
+
+#include <cstdio>
+#include <string>
+
+void tell(std::string_view message)
+{
+    std::string line = "tolvane-map: " + printable(message);
+    line += '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+ExitCode put(std::string_view results, ExitCode done)
+{
+    const bool written = std::fwrite(results.data(), 1, results.size(), stdout) == results.size();
+    if (written && std::fflush(stdout) == 0)
+        return done;
+    tell("cannot write to standard output");
+    return ExitCode::Failed;
+}

@@ -1,0 +1,13 @@
+#include "tool/Terminal.h"
+
+#include <unistd.h>
+
+bool outputIsTerminal()
+{
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
+void passBytesThrough()
+{
+    // They do here.
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+/// True when a person sees standard output at once.
+bool outputIsTerminal();
+
+/// Lets bytes pass through standard input and output as they are.
+void passBytesThrough();
