@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 std::optional<fs::path> linkedFile(FileSystemCalls& calls, fs::path path)
 {
     constexpr int longestChain = 40; // as many as the system itself follows
-    for (int links = 0; links < longestChain; ++links)
+    for (int links = 0; links <= longestChain; ++links)
     {
         std::array<char, PATH_MAX> target;
         const ssize_t length = calls.readlink(path.c_str(), target.data(), target.size());

@@ -111,6 +111,13 @@ TEST_F(OldBytes, OfNothingAreNotKept)
     EXPECT_FALSE(fs::exists(copy));
 }
 
+TEST_F(OldBytes, OfAPipeAreNotWaitedFor)
+{
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    EXPECT_FALSE(keepOldBytes(file));
+    EXPECT_FALSE(fs::exists(copy));
+}
+
 TEST_F(OldBytes, AreNotKeptOverAFolderOfTheirName)
 {
     folder.write("map.csv", "old");

@@ -207,6 +207,11 @@ TEST_F(RegisterEdit, LengthBeyond32BitsCountsAsTheLongestOrShortest)
     }
 }
 
+TEST_F(RegisterEdit, LengthInPartOfATextEndsWithThatPart)
+{
+    EXPECT_EQ(parseLength(std::string_view("1234").substr(1, 2)), 23);
+}
+
 TEST_F(RegisterEdit, AnythingElseDoesNotParseAsLength)
 {
     for (const char* text : {"", " ", "-", "+", "3x", "3 ", "x3", "+-3", "--3", "0x10", "2.5", "99999999999x"})

@@ -163,10 +163,10 @@ TEST_F(SafeWriteAccess, LabelThatTheFreshFileHasAlreadyNeedsNoRightToSetIt)
     EXPECT_NE(identity(file), old);
 }
 
-TEST_F(SafeWriteAccess, ChecksumThatTheSystemKeepsOfTheOldContentsIsNotCarried)
+TEST_F(SafeWriteAccess, ChecksumsAndRightsThatWereGivenToTheOldContentsAreNotCarried)
 {
     const ino_t old = identity(file);
-    calls.of(old) = {{"security.ima", "of the old contents"}};
+    calls.of(old) = {{"security.ima", "a checksum"}, {"security.evm", "another"}, {"security.capability", "rights"}};
     EXPECT_TRUE(writeFileSafely(file, "new", calls));
     EXPECT_NE(identity(file), old);
     EXPECT_TRUE(calls.of(identity(file)).empty());

@@ -70,6 +70,15 @@ TEST_F(SafeWriteInPlace, DiskWithoutRoomForRewritingInPlaceLeavesTheOldFileUntou
     EXPECT_EQ(contents(path), "old text");
 }
 
+TEST_F(SafeWriteInPlace, NoMoreRoomIsAskedForThanTheFileGrowsBy)
+{
+    const fs::path path = folder.write("map.csv", std::string(400, 'o'));
+    calls.refused["rename"] = EPERM;
+    const FileSizeLimit full(1000);
+    EXPECT_TRUE(writeFileSafely(path, std::string(1000, 'n'), calls));
+    EXPECT_EQ(contents(path), std::string(1000, 'n'));
+}
+
 TEST_F(SafeWriteInPlace, FileWithMoreNamesThanOneKeepsThemAll)
 {
     const fs::path path = folder.write("map.csv", "old text");

@@ -115,6 +115,18 @@ TEST_F(SafeWrite, DanglingLinkMakesTheFileItLeadsTo)
     EXPECT_EQ(contents(folder / "missing.csv"), "new");
 }
 
+TEST_F(SafeWrite, FileIsMadeAtTheEndOfAsManyLinksAsTheSystemFollows)
+{
+    constexpr int mostLinks = 40;
+    fs::create_symlink("map.csv", folder / "1");
+    for (int link = 2; link <= mostLinks + 1; ++link)
+        fs::create_symlink(std::to_string(link - 1), folder / std::to_string(link));
+    EXPECT_FALSE(writeFileSafely(folder / std::to_string(mostLinks + 1), "new"));
+    EXPECT_FALSE(fs::exists(folder / "map.csv"));
+    EXPECT_TRUE(writeFileSafely(folder / std::to_string(mostLinks), "new"));
+    EXPECT_EQ(contents(folder / "map.csv"), "new");
+}
+
 TEST_F(SafeWrite, LinksThatLeadNowhereAreRefused)
 {
     fs::create_symlink("no-such-folder/map.csv", folder / "astray");

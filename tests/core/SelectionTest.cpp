@@ -67,6 +67,14 @@ TEST(Selection, ObjectOfNoRegistersAddsNothing)
     EXPECT_TRUE(select(*slots, {10}).empty());
 }
 
+TEST(Selection, ObjectsThatCoverEachOtherAreTakenUpToABound)
+{
+    constexpr std::size_t longest = 16'777'216;
+    const auto slots = drawnSpace(0, "A");
+    (*slots)[0].registerCount = registersPerSpace;
+    EXPECT_EQ(select(*slots, std::vector(1000, 0)).size(), longest);
+}
+
 TEST(Selection, RowsOutsideTheSpaceArePassedOver)
 {
     const auto slots = drawnSpace(65'535, "A");

@@ -31,7 +31,7 @@ TEST(StrictJson, StringsStayAsTheyAreWritten)
 
 TEST(StrictJson, ControlCharactersInsideStringsAreEscaped)
 {
-    EXPECT_EQ(rewritten("[\"a\tb\x1F\x01\"]"), R"(["a\u0009b\u001F\u0001"])");
+    EXPECT_EQ(rewritten("[\"a\tb\x1F\x10\x01\"]"), R"(["a\u0009b\u001F\u0010\u0001"])");
     EXPECT_EQ(rewritten(std::string_view("{\"\0\":1}", 7)), R"({"\u0000":1})");
     EXPECT_EQ(rewritten("[\"\x7F\"]"), "[\"\x7F\"]");
     EXPECT_EQ(rewritten("[\"\\\t\"]"), "refused");
