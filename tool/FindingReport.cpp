@@ -98,7 +98,10 @@ FindingReport::Counts FindingReport::counts() const
 
 std::string findingsAsText(const FindingReport& report, const Style& style)
 {
+    // Growing bit by bit, the text of a hundred thousand findings would be copied over and over.
+    constexpr std::size_t usualLine = 128;
     std::string text;
+    text.reserve(report.findings.size() * usualLine);
     for (const Finding& finding : report.findings)
         appendTextLine(text, report, finding, style);
     return text;
