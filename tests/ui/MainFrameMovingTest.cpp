@@ -2,6 +2,7 @@
 
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/MenuScript.h"
+#include "tests/ui/ScreenPicture.h"
 #include "tests/ui/UiTest.h"
 
 #include <gtest/gtest.h>
@@ -54,6 +55,15 @@ void showEveryAddress(EditorWindow& editor)
     editor.nextView();
     editor.nextView();
     ASSERT_EQ(editor.mapGrid->GetNumberRows(), registersPerSpace);
+}
+
+/// Whether a row of the map grid has a tag's name on the screen.
+bool showsTagname(const EditorWindow& editor, int row)
+{
+    constexpr int tagnameColumn = 2;
+    wxRect cell = editor.mapGrid->CellToRect(row, tagnameColumn);
+    cell.SetPosition(editor.mapGrid->CalcScrolledPosition(cell.GetPosition()));
+    return !ScreenPicture(*editor.mapGrid->GetGridWindow(), cell.Deflate(3)).inked().IsEmpty();
 }
 
 } // namespace
@@ -221,6 +231,16 @@ TEST(MainFrameMoving, CompressEntryOfTheMenuDoesTheSame)
     EXPECT_EQ(editor.cell(2, 2), "TANK_HIGH");
 }
 
+TEST(MainFrameMoving, CompressingARangeWithoutGapsDropsTheSelectionOnly)
+{
+    const PlantFiles files(definition);
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.clickMapRow(0);
+    clickOn(*editor.button(compressTooltip));
+    EXPECT_TRUE(waitForSelection(editor, {}));
+    EXPECT_FALSE(editor.registerMap().isModified());
+}
+
 TEST(MainFrameMoving, CompressingARangeThatHoldsALockIsRefused)
 {
     const PlantFiles files(lockedDefinition);
@@ -272,6 +292,28 @@ TEST(MainFrameMoving, FreeRegisterCanBeLockedAndThenTakesNoNeighbour)
     EXPECT_FALSE(holding(editor, 41).used);
 }
 
+TEST(MainFrameMoving, RowThatAPushedNeighbourComesToIsPaintedAmongAllAddresses)
+{
+    const PlantFiles files(definition);
+    EditorWindow& editor = *openEditor(files.startup());
+    showEveryAddress(editor);
+    editor.clickMapRow(10);
+    ASSERT_TRUE(waitUntil([&] { return showsTagname(editor, 12) && !showsTagname(editor, 13); }));
+    pressKey('=', wxMOD_CONTROL);
+    EXPECT_TRUE(waitUntil([&] { return showsTagname(editor, 13); }));
+}
+
+TEST(MainFrameMoving, RowThatAMovedObjectLeavesIsPaintedAmongAllAddresses)
+{
+    const PlantFiles files(definition);
+    EditorWindow& editor = *openEditor(files.startup());
+    showEveryAddress(editor);
+    editor.clickMapRow(10);
+    ASSERT_TRUE(waitUntil([&] { return showsTagname(editor, 11) && !showsTagname(editor, 9); }));
+    pressKey('-');
+    EXPECT_TRUE(waitUntil([&] { return showsTagname(editor, 9) && !showsTagname(editor, 11); }));
+}
+
 TEST(MainFrameMoving, PurgeAfterYesDeletesTheErrorsOfEverySpaceButNotTheLockedOnes)
 {
     const PlantFiles files(faultyDefinition);
@@ -284,6 +326,18 @@ TEST(MainFrameMoving, PurgeAfterYesDeletesTheErrorsOfEverySpaceButNotTheLockedOn
               "This will delete all registers that contain an error.\nAre you sure you want to continue?");
     EXPECT_FALSE(editor.registerMap().slots(RegisterSpace::Coil)[7].used);
     EXPECT_EQ(editor.cell(1, 2), "GONE");
+}
+
+TEST(MainFrameMoving, PurgeJudgesAnewWhatItLeaves)
+{
+    const PlantFiles files(faultyDefinition);
+    EditorWindow& editor = *openEditor(files.startup());
+    RegisterEntry& slot = editor.registerMap().slots(RegisterSpace::Holding)[10];
+    slot.tagname = InternedText("NOBODY");
+    const MessageBoxAnswer answer(wxID_YES);
+    clickOn(*editor.button(purgeTooltip));
+    ASSERT_TRUE(waitForRows(editor, {"00010", "00030"}));
+    EXPECT_EQ(slot.tagIndex, -1);
 }
 
 TEST(MainFrameMoving, PurgeAfterNoChangesNothing)

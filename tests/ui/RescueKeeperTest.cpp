@@ -80,6 +80,17 @@ TEST(RescueKeeper, LeavesTheLastCopyWhenTheProgramEndsWithoutFinishing)
     EXPECT_EQ(readFile(copy), definitionText(document.map));
 }
 
+TEST(RescueKeeper, FinishingKeepsChangesThatNoIntervalHasSeen)
+{
+    const TempFolder folder;
+    Document document("", folder / "north.csv", 0);
+    constexpr int hour = 3'600'000;
+    RescueKeeper keeper(document, folder / "rescue", hour);
+    change(document, 3);
+    keeper.finish();
+    EXPECT_EQ(readFile(keeper.file()), definitionText(document.map));
+}
+
 TEST(RescueKeeper, RemovesTheCopyOfAMinuteWhenItsChangesAreSaved)
 {
     const TempFolder folder;
