@@ -63,8 +63,12 @@ def collect(root, tree, pattern=None):
     cache_file = tree.folder / "candidates.json"
     cache = json.loads(cache_file.read_text()) if cache_file.exists() else {}
     finder_text = (root / "scripts/mutation/finder.py").read_bytes()
+    # A file keeps its numbers when others come: what has not changed is not built again.
+    order = cache.setdefault("order", [])
     found = []
-    for index, file in enumerate(source_files(root)):
+    for file in source_files(root):
+        if file not in order:
+            order.append(file)
         if pattern and not fnmatch(file, pattern):
             continue
         text = tree.remembered(file)
@@ -72,7 +76,7 @@ def collect(root, tree, pattern=None):
         if cache.get(file, {}).get("digest") != digest:
             places = finder.places(root, file, text.decode("latin-1"), tree.compiler_arguments(file))
             cache[file] = {"digest": digest, "places": [asdict(Mutant(**place)) for place in places]}
-        found += numbered(cache[file]["places"], index)
+        found += numbered(cache[file]["places"], order.index(file))
     cache_file.write_text(json.dumps(cache))
     return found
 

@@ -121,8 +121,10 @@ class Trial:
         status, output = self.run_tests(program, names, 10 * seconds + START_SECONDS, {"MUTANT": str(mutant.number)})
         if status == 0:
             return ""
+        # After a failure the tests that are left out are named as well; after a crash the last one named is the one.
+        failed = re.findall(r"^\[  FAILED  \] ([^\s,]+)", output, flags=re.M)
         started = re.findall(r"^\[ RUN      \] (\S+)", output, flags=re.M)
-        return started[-1] if started else "the start of the tests"
+        return failed[0] if failed else started[-1] if started else "the start of the tests"
 
     def run_tests(self, program, names, limit, environment, fail_fast=True):
         """In a folder of their own, because a change may well write or delete in the wrong place."""
