@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -40,6 +41,13 @@ std::map<std::string, std::string> environmentIn(const fs::path& home, Installat
             {"GDK_BACKEND", "x11"},
             // What the toolkit keeps until the end is none of the program's leaks.
             {"ASAN_OPTIONS", "detect_leaks=0"}};
+}
+
+/// The program of this build, or the one that TOLVANE_PROGRAM names, such as an installed one.
+fs::path programFile()
+{
+    const char* const other = std::getenv("TOLVANE_PROGRAM");
+    return other == nullptr ? PROGRAM_UNDER_TEST : other;
 }
 
 Control::Test buttonNamed(const std::string& name)
@@ -97,7 +105,7 @@ Control controlBeside(const Control& dialog, const std::string& label, const std
 ProgramUnderTest::ProgramUnderTest(PrivateScreen& itsScreen, const fs::path& home,
                                    const std::vector<std::string>& arguments, Installation installation)
     : screen(itsScreen), errorFile(home / "stderr"),
-      process(PROGRAM_UNDER_TEST, arguments, environmentIn(home, installation), errorFile),
+      process(programFile(), arguments, environmentIn(home, installation), errorFile),
       bus(std::make_shared<AccessibilityBus>())
 {
 }
