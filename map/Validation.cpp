@@ -65,7 +65,7 @@ void validateSlot(RegisterEntry& slot, const TagTable& tags, TagLookup& lookup)
     slot.tagIndex = lookup.indexOf(slot.tagname);
     slot.typeValid = true;
     slot.writeValid = true;
-    if (slot.tagIndex == -1)
+    if (slot.tagIndex < 0)
         return;
     const TagRecord& tag = tags[slot.tagIndex];
     slot.typeValid = typeSuits(slot, tag);

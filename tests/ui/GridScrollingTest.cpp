@@ -1,5 +1,7 @@
 // Which rows of the grids are in view, and where their cursors stand.
 
+#include "ui/grid/GridScrolling.h"
+
 #include "tests/ui/SourceSide.h"
 #include "tests/ui/UiTest.h"
 #include "ui/grid/GridSelection.h"
@@ -105,6 +107,18 @@ TEST(GridScrolling, FilterShowsTheFirstRowWithTheCursorOnIt)
     const EditorWindow& editor = openAtTheEnd(files);
     typeOver(*editor.sourceFilter, "tag_1");
     EXPECT_TRUE(waitUntil([&] { return standsOnFirstRow(*editor.sourceGrid); }));
+}
+
+TEST(GridScrolling, RowThatIsScrolledToIsTheFirstInView)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = openWithEveryAddress(files);
+    wxGrid& grid = *editor.mapGrid;
+    for (const int row : {1000, 500})
+    {
+        scrollToTop(grid, row);
+        EXPECT_EQ(grid.YToRow(grid.CalcUnscrolledPosition(wxPoint(0, grid.GetRowSize(row) / 2)).y), row);
+    }
 }
 
 TEST(GridScrolling, ChoiceInTheTreeShowsTheFirstRowWithTheCursorOnIt)

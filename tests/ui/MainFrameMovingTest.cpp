@@ -314,6 +314,17 @@ TEST(MainFrameMoving, RowThatAMovedObjectLeavesIsPaintedAmongAllAddresses)
     EXPECT_TRUE(waitUntil([&] { return showsTagname(editor, 9) && !showsTagname(editor, 11); }));
 }
 
+TEST(MainFrameMoving, LockingRowsThatStandApartSelectsNothingBetweenThem)
+{
+    const PlantFiles files(lockedDefinition);
+    EditorWindow& editor = *openEditor(files.startup());
+    editor.clickMapRow(0);
+    editor.mapGrid->SelectRow(2, true);
+    clickOn(*editor.button(lockTooltip));
+    ASSERT_TRUE(waitUntil([&] { return editor.cell(0, 0) == "L" && editor.cell(2, 0) == "L"; }));
+    EXPECT_TRUE(waitForSelection(editor, {0, 2}));
+}
+
 TEST(MainFrameMoving, PurgeAfterYesDeletesTheErrorsOfEverySpaceButNotTheLockedOnes)
 {
     const PlantFiles files(faultyDefinition);
