@@ -121,6 +121,16 @@ TEST(GridScrolling, RowThatIsScrolledToIsTheFirstInView)
     }
 }
 
+TEST(GridScrolling, RowInTwoSelectedBlocksIsListedOnce)
+{
+    const PlantFiles files("");
+    wxGrid& grid = *openWithEveryAddress(files).mapGrid;
+    const int lastColumn = grid.GetNumberCols() - 1;
+    grid.SelectBlock(1, 0, 3, lastColumn);
+    grid.SelectBlock(2, 0, 4, lastColumn, true);
+    EXPECT_EQ(selectedRows(grid), (std::vector{1, 2, 3, 4}));
+}
+
 TEST(GridScrolling, ChoiceInTheTreeShowsTheFirstRowWithTheCursorOnIt)
 {
     const LongFiles files;

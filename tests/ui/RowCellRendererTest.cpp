@@ -73,6 +73,16 @@ bool samePicture(const wxImage& one, const wxImage& other)
 
 } // namespace
 
+TEST(RowCellRenderer, SelectedCellAloneHasTheGroundOfTheSelection)
+{
+    OneCell& cell = *new OneCell;
+    const auto isBlack = [](const wxImage& picture)
+    { return picture.GetRed(5, 5) + picture.GetGreen(5, 5) + picture.GetBlue(5, 5) == 0; };
+    EXPECT_TRUE(isBlack(cell.pictureOf("")));
+    cell.selected = true;
+    EXPECT_FALSE(isBlack(cell.pictureOf("")));
+}
+
 TEST(RowCellRenderer, TextThatHasRoomIsDrawnWhole)
 {
     OneCell& cell = *new OneCell;
