@@ -205,3 +205,19 @@ TEST_F(DefinitionSaving, SavingReplacesTheOldText)
     folder.write("saved.csv", std::string(5000, '#'));
     EXPECT_EQ(saved(), "HOLDING,00001,NONE,INT16,A,x,1,UNLOCKED,ERROR" + lineEnd);
 }
+
+/// Required: reading clears no byte-order flag, so a line takes those of the slots that it is laid over.
+TEST_F(DefinitionSaving, EachSavingHandsAByteOrderOnToTheNextObjectThatLiesOverAnother)
+{
+    const auto lines = [](const char* second, const char* third)
+    {
+        return "HOLDING,00008,BYTES,FLOAT,A,x,2,UNLOCKED,ERROR" + lineEnd + "HOLDING,00009," + second +
+               ",FLOAT,B,x,2,UNLOCKED,ERROR" + lineEnd + "HOLDING,00010," + third + ",INT16,C,x,1,UNLOCKED,ERROR" +
+               lineEnd;
+    };
+    load(lines("NONE", "NONE"));
+    EXPECT_EQ(saved(), lines("BYTES", "NONE"));
+    map.initialise();
+    load(lines("BYTES", "NONE"));
+    EXPECT_EQ(saved(), lines("BYTES", "BYTES"));
+}
