@@ -72,8 +72,7 @@ void EndToEnd::leaveWithoutQuestion()
 void EndToEnd::leaveAnswering(const std::string& answer)
 {
     running->clickTool("Exit without saving");
-    const Control question = running->waitForMessage("Save changes ?");
-    EXPECT_EQ(screen.activeTitle(), "Confirmation");
+    const Control question = running->waitForMessage("Save changes ?", "Confirmation");
     running->clickButton(question, answer);
     EXPECT_EQ(running->waitForExit(), 0);
 }

@@ -103,12 +103,12 @@ TEST_F(Leaving, WithoutAnyFileNameSavingAsksForOneAndCancellingThatGoesBackToThe
     program.waitForMainWindow();
     appendFirstTag(program);
     program.clickTool("Exit without saving");
-    program.clickButton(program.waitForMessage("Save changes ?"), "Yes");
+    program.clickButton(program.waitForMessage("Save changes ?", "Confirmation"), "Yes");
     program.clickButton(program.waitForWindow(saveTitle), "Cancel");
     program.waitUntilClosed(saveTitle);
 
     program.clickTool("Exit without saving");
-    program.clickButton(program.waitForMessage("Save changes ?"), "Yes");
+    program.clickButton(program.waitForMessage("Save changes ?", "Confirmation"), "Yes");
     const Control chooser = program.waitForWindow(saveTitle);
     program.typeInto(chooser, "Name:", map.string());
     screen.pressKey("Return");

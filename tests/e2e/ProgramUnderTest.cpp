@@ -134,16 +134,20 @@ Control ProgramUnderTest::waitForWindow(const std::string& title)
     return *found;
 }
 
-Control ProgramUnderTest::waitForMessage(const std::string& text)
+Control ProgramUnderTest::waitForMessage(const std::string& text, const std::string& title)
 {
     const std::optional<Control> found = waitFor(
         [&]
         {
             std::optional<Control> window = activeWindow();
-            return window && window->role() == "alert" && window->find(labelSaying(text)) ? window : std::nullopt;
+            // The window manager names the active window a little after the box has got the keyboard.
+            return window && window->role() == "alert" && window->find(labelSaying(text)) &&
+                           screen.activeTitle() == title
+                       ? window
+                       : std::nullopt;
         });
     if (!found)
-        throw std::runtime_error("no message box says: " + text);
+        throw std::runtime_error("no message box \"" + title + "\" says: " + text);
     settledBounds(*found);
     return *found;
 }

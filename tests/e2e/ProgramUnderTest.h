@@ -39,9 +39,10 @@ public:
     /// @param title  its whole title; that of a message box is not known on the accessibility bus
     Control waitForWindow(const std::string& title);
 
-    /// Waits for a message box.
-    /// @param text  the whole of what it says
-    Control waitForMessage(const std::string& text);
+    /// Waits for a message box that has the keyboard.
+    /// @param text   the whole of what it says
+    /// @param title  as the window manager shows it
+    Control waitForMessage(const std::string& text, const std::string& title = "Message");
 
     /// Waits until no window with that title is shown.
     void waitUntilClosed(const std::string& title);

@@ -44,7 +44,7 @@ TEST_F(Purge, YesDeletesWhatIsInErrorInAllSpacesAndNotLocked)
     ProgramUnderTest& program = openMap(faultyMap);
     program.waitForText("  WARNING : 7 error(s) found in register map");
     program.clickTool(purgeButton);
-    program.clickButton(program.waitForMessage(purgeQuestion), "Yes");
+    program.clickButton(program.waitForMessage(purgeQuestion, "Confirmation"), "Yes");
     program.waitForText("  WARNING : 2 error(s) found in register map");
     leaveAnswering("Yes");
     EXPECT_EQ(savedMap(), "HOLDING,00014,NONE,FLOAT,UNKNOWN,Nobody knows it,2,LOCKED,ERROR\n"
@@ -55,12 +55,11 @@ TEST_F(Purge, EscapeAndNoLeaveEverythingAsItIs)
 {
     ProgramUnderTest& program = openMap(faultyMap);
     program.clickTool(purgeButton);
-    program.waitForMessage(purgeQuestion);
-    EXPECT_EQ(screen.activeTitle(), "Confirmation");
+    program.waitForMessage(purgeQuestion, "Confirmation");
     screen.pressKey("Escape");
     program.waitUntilClosed("Confirmation");
     program.clickTool(purgeButton);
-    program.clickButton(program.waitForMessage(purgeQuestion), "No");
+    program.clickButton(program.waitForMessage(purgeQuestion, "Confirmation"), "No");
     program.waitUntilClosed("Confirmation");
     program.waitForText("  WARNING : 7 error(s) found in register map");
     leaveWithoutQuestion();

@@ -91,7 +91,7 @@ TEST_F(Rescue, KeepsWhatIsUnsavedWhileAQuestionIsOpen)
 {
     ProgramUnderTest& program = openAndChange();
     program.clickTool("Exit without saving");
-    program.waitForMessage("Save changes ?");
+    program.waitForMessage("Save changes ?", "Confirmation");
     program.sendSignal(SIGTERM);
     EXPECT_EQ(program.waitForExit(), signalOffset + SIGTERM);
     expectRescued(program);

@@ -45,7 +45,7 @@ void takeSaveQuestion(Studio& studio)
     program.mapGrid().select(20);
     studio.screen.pressKey("Delete");
     program.clickTool("Exit without saving");
-    program.waitForMessage("Save changes ?");
+    program.waitForMessage("Save changes ?", "Confirmation");
     studio.storeActiveWindow("save-question");
 }
 
