@@ -1,6 +1,7 @@
 // How the program starts: with and without its installation, files and options.
 
 #include "tests/e2e/EndToEnd.h"
+#include "tests/e2e/Patience.h"
 
 namespace
 {
@@ -16,6 +17,11 @@ void expectUsage(const std::string& text)
         << text;
 }
 
+bool isIcon(const Control& control)
+{
+    return control.role() == "icon";
+}
+
 constexpr const char* noDatabase = "Input file not found\n";
 
 } // namespace
@@ -26,7 +32,7 @@ TEST_F(Start, WithoutInstallationOnlyTheAlertIsShownAndTheExitCodeIsZero)
     const Control alert = program.waitForMessage("Cannot locate registry entries required by this program\n\n"
                                                  "This program cannot continue and will now terminate",
                                                  "Alert - Program cannot continue");
-    EXPECT_TRUE(alert.find([](const Control& control) { return control.role() == "icon"; }));
+    EXPECT_TRUE(waitFor([&] { return alert.find(isIcon); }));
     EXPECT_FALSE(program.showsMainWindow());
     program.clickButton(alert, "OK");
     EXPECT_EQ(program.waitForExit(), 0);
