@@ -3,6 +3,8 @@
 #include "text/Integers.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <variant>
 
 namespace
@@ -21,11 +23,11 @@ bool isNumber(std::string_view field)
 
 bool isOrderWrittenBack(std::string_view order, const DefinitionObject& object)
 {
-    const int names = int{object.SwapBytes} + int{object.SwapWords} + int{object.SwapLongs};
+    const auto names = std::ranges::count(std::array{object.SwapBytes, object.SwapWords, object.SwapLongs}, true);
     if (names == 0)
         return order.empty() || order == "NONE";
     // Each name is in it, so an order that is no longer than these with a "+" between them says nothing else.
-    constexpr int nameLength = 5;
+    constexpr std::ptrdiff_t nameLength = 5;
     return std::ssize(order) == names * nameLength + names - 1;
 }
 
