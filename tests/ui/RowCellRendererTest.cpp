@@ -12,6 +12,7 @@
 #include <wx/grid.h>
 #include <wx/image.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -37,21 +38,36 @@ public:
         grid->SetCellValue(0, 0, text);
         const wxGridCellAttrPtr look(
             new wxGridCellAttr(colour, *wxBLACK, theme::regular(10), alignment, wxALIGN_CENTRE));
-        wxBitmap bitmap(cellWidth, cellHeight);
+        wxBitmap bitmap(width, height);
         wxMemoryDC dc(bitmap);
-        renderer.Draw(*grid, *look, dc, wxRect(0, 0, cellWidth, cellHeight), 0, 0, selected);
+        renderer.Draw(*grid, *look, dc, wxRect(0, 0, width, height), 0, 0, selected);
         dc.SelectObject(wxNullBitmap);
         return bitmap.ConvertToImage();
+    }
+
+    /// Whether the cell shows the whole of a text when the column has a width.
+    bool showsWhole(const wxString& text, int columnWidth)
+    {
+        grid->SetCellValue(0, 0, text);
+        grid->SetCellFont(0, 0, theme::regular(10));
+        grid->SetColSize(0, columnWidth);
+        return showsWholeText(*grid, 0, 0);
+    }
+
+    /// Pixels that a text takes.
+    static int widthOf(const wxString& text)
+    {
+        wxBitmap bitmap(1, 1);
+        wxMemoryDC dc(bitmap);
+        dc.SetFont(theme::regular(10));
+        return dc.GetTextExtent(text).GetWidth();
     }
 
     /// The longest beginning of a text that has room together with an ellipsis.
     static wxString shortened(const wxString& text)
     {
-        wxBitmap bitmap(1, 1);
-        wxMemoryDC dc(bitmap);
-        dc.SetFont(theme::regular(10));
         std::size_t length = text.length();
-        while (dc.GetTextExtent(text.Left(length) + L"\u2026").GetWidth() > cellWidth - 2 * RowCellRenderer::margin)
+        while (widthOf(text.Left(length) + L"\u2026") > cellWidth - 2 * RowCellRenderer::margin)
             --length;
         return text.Left(length) + L"\u2026";
     }
@@ -59,6 +75,8 @@ public:
     wxColour colour = *wxWHITE;
     int alignment = wxALIGN_LEFT;
     bool selected = false;
+    int width = cellWidth;
+    int height = cellHeight;
 
 private:
     wxGrid* grid;
@@ -67,8 +85,18 @@ private:
 
 bool samePicture(const wxImage& one, const wxImage& other)
 {
-    constexpr std::size_t pixels = std::size_t(cellWidth) * cellHeight;
-    return std::memcmp(one.GetData(), other.GetData(), pixels * 3) == 0;
+    const auto pixels = static_cast<std::size_t>(one.GetWidth()) * static_cast<std::size_t>(one.GetHeight());
+    return one.GetSize() == other.GetSize() && std::memcmp(one.GetData(), other.GetData(), pixels * 3) == 0;
+}
+
+/// The first line of a picture that is not black.
+int firstInkedLine(const wxImage& picture)
+{
+    const std::size_t line = static_cast<std::size_t>(picture.GetWidth()) * 3;
+    const unsigned char* const bytes = picture.GetData();
+    const std::size_t all = line * static_cast<std::size_t>(picture.GetHeight());
+    return static_cast<int>(std::find_if(bytes, bytes + all, [](unsigned char byte) { return byte != 0; }) - bytes) /
+           static_cast<int>(line);
 }
 
 } // namespace
@@ -89,6 +117,37 @@ TEST(RowCellRenderer, TextThatHasRoomIsDrawnWhole)
     EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf("")));
     EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf("PUMP_2")));
     EXPECT_FALSE(samePicture(cell.pictureOf("PUMP_1"), cell.pictureOf(L"PUMP\u2026")));
+}
+
+TEST(RowCellRenderer, TextExactlyAsWideAsItsRoomIsDrawnWhole)
+{
+    OneCell& cell = *new OneCell;
+    const wxString text = "PUMP_HH";
+    const wxImage inPlenty = cell.pictureOf(text);
+    cell.width = OneCell::widthOf(text) + 2 * RowCellRenderer::margin;
+    ASSERT_LT(cell.width, cellWidth);
+    EXPECT_TRUE(samePicture(cell.pictureOf(text), inPlenty.GetSubImage(wxRect(0, 0, cell.width, cellHeight))));
+}
+
+TEST(RowCellRenderer, TextStandsInTheMiddleOfItsRow)
+{
+    OneCell& cell = *new OneCell;
+    const int usual = firstInkedLine(cell.pictureOf("PUMP"));
+    cell.alignment = wxALIGN_CENTRE;
+    EXPECT_EQ(firstInkedLine(cell.pictureOf("PUMP")), usual);
+    cell.height = cellHeight + 20;
+    EXPECT_EQ(firstInkedLine(cell.pictureOf("PUMP")), usual + 10);
+    cell.alignment = wxALIGN_LEFT;
+    EXPECT_EQ(firstInkedLine(cell.pictureOf("PUMP")), usual + 10);
+}
+
+TEST(RowCellRenderer, CellShowsWholeTextsUpToItsWidthLessTheMargins)
+{
+    OneCell& cell = *new OneCell;
+    const wxString text = "PUMP_STATION";
+    const int least = OneCell::widthOf(text) + 2 * RowCellRenderer::margin;
+    EXPECT_TRUE(cell.showsWhole(text, least));
+    EXPECT_FALSE(cell.showsWhole(text, least - 1));
 }
 
 TEST(RowCellRenderer, TextThatHasNoRoomEndsInAnEllipsis)
