@@ -66,7 +66,10 @@ void addToolBenchmarks(ResultTable& table)
 {
     constexpr double goal = 150;
     const auto add = [&](const std::string& work, const std::string& arguments, int exitCode)
-    { table.add({.work = work, .measurement = running(arguments, exitCode), .milliseconds = goal}); };
+    {
+        const Measurement measurement = running(arguments, exitCode);
+        table.add({.work = work, .measurement = measurement, .milliseconds = goal});
+    };
     add("tolvane-map check, 65,536 objects and tags", "check -d plant.json -m map.csv", 0);
     add("tolvane-map check, no name known", "check -d other.json -m map.csv", 1);
     add("tolvane-map diff, the same 65,536 objects", "diff map.csv map.csv", 0);
