@@ -48,6 +48,7 @@ bool MainApp::OnInit()
         return true; // without a document there is nothing to run
     }
     document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);
+    document->spareFolder = rescueFolder();
     openDocument(*document);
     // After loading: what has just been read is on the disk and needs no copy.
     rescue.emplace(*document, rescueFolder());

@@ -8,8 +8,8 @@
 /// Reads a whole file as bytes.
 ///
 /// Only existing regular files are read, symbolic links followed; opening a pipe or a device could wait for ever.
-/// @return the bytes up to where the file ends while it is read, or nothing when it is missing, no regular file,
-///         unreadable or larger than the memory
+/// @return the bytes up to where the file ends while it is read, or nothing when it is missing, not a regular
+///         file, unreadable or larger than the memory
 std::optional<std::string> readFile(const std::filesystem::path& path);
 
 /// Appends what is left of an open file or stream.

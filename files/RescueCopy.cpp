@@ -38,18 +38,37 @@ std::string timeStamp()
     return {text.data(), length};
 }
 
+/// Units of a file name, bytes or on Windows characters, that stem and extension of the work may take. File systems
+/// end at 255; the time, a number and what a safe write adds need their part.
+constexpr std::size_t longestStem = 160;
+constexpr std::size_t longestExtension = 32;
+
+/// The beginning of a name, not cut inside a character.
+fs::path shortened(const fs::path& name, std::size_t most)
+{
+    fs::path::string_type text = name.native();
+    if (text.size() <= most)
+        return name;
+    const auto isInsideCharacter = [](auto unit) { return sizeof unit == 1 && (unit & 0xC0) == 0x80; };
+    while (most > 0 && isInsideCharacter(text[most]))
+        --most;
+    text.resize(most);
+    return text;
+}
+
 /// A name in the folder that no other run has taken.
 fs::path freeName(const fs::path& folder, const fs::path& workName)
 {
     const std::string stamp = timeStamp();
-    const fs::path stem = workName.has_stem() ? workName.stem() : fs::path("map");
+    const fs::path stem = workName.has_stem() ? shortened(workName.stem(), longestStem) : fs::path("map");
+    const fs::path extension = shortened(workName.extension(), longestExtension);
     for (int number = 1;; ++number)
     {
         fs::path name = stem;
         name += stamp;
         if (number > 1)
             name += "-" + std::to_string(number);
-        name += workName.extension();
+        name += extension;
         if (!fs::exists(folder / name))
             return folder / name;
     }
@@ -68,6 +87,7 @@ bool makeFolder(const fs::path& folder)
 
 /// Removes the oldest copies until no more than `keptCopies` are left.
 void removeOldest(const fs::path& folder)
+try
 {
     std::vector<std::pair<fs::file_time_type, fs::path>> copies;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder))
@@ -82,6 +102,10 @@ void removeOldest(const fs::path& folder)
     copies.resize(copies.size() - RescueCopy::keptCopies);
     for (const auto& [time, path] : copies)
         fs::remove(path);
+}
+catch (const fs::filesystem_error&)
+{
+    // Another run tidies up at the same time. What it leaves goes with the next copy.
 }
 
 } // namespace
@@ -98,7 +122,8 @@ try
         return false;
     // Only now: were it noted before, a failure would leave a name under which there is nothing.
     copy = target;
-    fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write);
+    std::error_code ignored; // the folder keeps others out in any case
+    fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, ignored);
     // After the writing, so that a full disk costs no older copy. This one is the youngest and stays.
     removeOldest(folder);
     return true;

@@ -53,7 +53,7 @@ CompressResult compressRegisters(RegisterSlots& slots, std::span<const int> addr
 {
     if (addresses.empty() || !RegisterSlots::contains(addresses.front()) || !RegisterSlots::contains(addresses.back()))
         return CompressResult::NothingSelected;
-    // The list is taken as the grid reports it. A selection reported from the bottom up has no range.
+    // Whoever lists the registers from the highest down has given no range; nobody sorts them here.
     if (addresses.front() > addresses.back())
         return CompressResult::Unchanged;
     const auto first = slots.begin() + addresses.front();

@@ -63,9 +63,9 @@ DefinitionLoad readBytes(std::string bytes, RegisterMap& map, const TagTable& ta
     const bool marked = hasByteOrderMark(bytes);
     const std::string text = decodeText(std::move(bytes));
     bool whole = !marked || text.find(replacementCharacter) == std::string::npos;
-    const bool standWhole = readDefinition(
+    const bool comeBack = readDefinition(
         text, map, tags, [&whole](const DefinitionFileLine& line) { whole = whole && isWrittenBack(line); });
-    return whole && standWhole ? DefinitionLoad::Whole : DefinitionLoad::Partial;
+    return whole && comeBack ? DefinitionLoad::Whole : DefinitionLoad::Partial;
 }
 
 } // namespace

@@ -70,7 +70,20 @@ void DefinitionPlacer::placeAll()
     std::for_each(waiting.rbegin(), waiting.rend(),
                   [&](const DefinitionObject& object) { place(object, left[static_cast<std::size_t>(object.space)]); });
     fillInTexts();
+    comeBack = comeBack && (!overlapping || std::all_of(waiting.begin(), waiting.end(),
+                                                        [this](const auto& object) { return isOrderItsOwn(object); }));
     waiting.clear();
+}
+
+/// Whether the first slot has no flag of an object that lies below this one.
+bool DefinitionPlacer::isOrderItsOwn(const DefinitionObject& object) const
+{
+    const RegisterSlots& slots = map.slots(object.space);
+    if (!RegisterSlots::contains(object.start))
+        return false;
+    const RegisterEntry& head = slots[object.start];
+    return head.SwapBytes == object.SwapBytes && head.SwapWords == object.SwapWords &&
+           head.SwapLongs == object.SwapLongs;
 }
 
 void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
@@ -87,7 +100,11 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
                          written.push_back({&slots[address], texts.size()});
                      });
     const auto slotsGot = static_cast<int>(written.size() - writtenBefore);
-    standWhole = standWhole && RegisterSlots::contains(object.start) && slotsGot == end - first;
+    // Slots are visited upwards, so the first one got is the head if that was to be had.
+    const bool hasHead =
+        RegisterSlots::contains(object.start) && slotsGot > 0 && written[writtenBefore].slot == &slots[object.start];
+    comeBack = comeBack && hasHead;
+    overlapping = overlapping || slotsGot < end - first;
     if (slotsGot > 0)
         texts.insert(texts.end(), {object.tagname, object.description});
 

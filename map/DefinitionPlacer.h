@@ -30,9 +30,10 @@ public:
     /// Places the objects taken so far.
     void placeAll();
 
-    /// True when every object placed so far begins in its space and no other lies over it. Saving then writes a line
-    /// for each of them, and reading these lines gives the same slots.
-    bool allStandWhole() const { return standWhole && taken <= mostWaiting; }
+    /// True when the first register of every object placed so far is its own and has the byte order that its line
+    /// names. Saving then writes a line for each of them that says the same, and reading these lines gives the same
+    /// slots: where an object covers the end of the one before, its line comes after that one's in the saved file too.
+    bool allComeBack() const { return comeBack && taken <= mostWaiting; }
 
 private:
     /// As many as there are slots: few enough to keep, and enough for walking over all spaces to carry no weight. When
@@ -56,11 +57,13 @@ private:
     };
 
     void place(const DefinitionObject& object, LeftOver& left);
+    bool isOrderItsOwn(const DefinitionObject& object) const;
     void fillInTexts();
 
     RegisterMap& map;
     std::size_t taken = 0;
-    bool standWhole = true;
+    bool comeBack = true;
+    bool overlapping = false; ///< some object has not got all of its slots
     std::vector<DefinitionObject> waiting;
     std::vector<std::string_view> texts; ///< of the objects that have a slot
     std::vector<WrittenSlot> written;

@@ -35,23 +35,25 @@ SplitLine splitLine(std::string_view line)
     return split;
 }
 
-/// Registers of a STRING whose line does not say: the size of the database tag of that name, else one register.
-std::uint32_t stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
+/// Registers of a STRING whose line does not say: the size of the database tag of that name.
+std::optional<std::uint32_t> stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
 {
     const std::optional<InternedText> name = InternedText::known(tagnameField.substr(0, tagnameField.find('.')));
     const std::optional<int> index = name ? tags.find(*name) : std::nullopt;
     // An empty name finds the first unused record, which sizes nothing.
     if (!index || *index >= tags.count())
-        return 1;
+        return std::nullopt;
     return registersForString(tags[*index].size);
 }
 
-/// Registers of a line of six fields, as a text; empty where its type says it.
-std::string registersNotGiven(const DefinitionFields& fields, const TagTable& tags)
+/// Registers of a line of six fields, as a text; empty where its type says it. One where nobody says it.
+std::string registersNotGiven(DefinitionFileLine& line, const TagTable& tags)
 {
-    if (typeFromName(fields.type) != DataType::String)
+    if (typeFromName(line.fields.type) != DataType::String)
         return {};
-    return std::to_string(stringRegistersFromDatabase(fields.tagname, tags));
+    const std::optional<std::uint32_t> registers = stringRegistersFromDatabase(line.fields.tagname, tags);
+    line.isLengthGuessed = !registers;
+    return std::to_string(registers.value_or(1));
 }
 
 DefinitionFields fieldsOf(const SplitLine& split)
@@ -77,11 +79,12 @@ void readLine(DefinitionFileLine& line, DefinitionPlacer& placer, const TagTable
     const SplitLine split = splitLine(line.text);
     line.fieldCount = split.count;
     line.fields = fieldsOf(split);
+    line.isLengthGuessed = false;
     line.meaning = LineFault::FieldCount;
     std::string computedCount;
     if (split.count == formWithoutCount)
     {
-        computedCount = registersNotGiven(line.fields, tags);
+        computedCount = registersNotGiven(line, tags);
         line.fields.count = computedCount;
     }
     if (isForm(split.count))
@@ -104,5 +107,5 @@ bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tag
                     readLine(line, placer, tags, observer);
                 });
     placer.placeAll();
-    return placer.allStandWhole();
+    return placer.allComeBack();
 }

@@ -18,7 +18,8 @@ struct DefinitionFileLine
     std::size_t fieldCount = 0; ///< fields that it has; 10 stands for any more
     DefinitionFields fields;    ///< lock and status are filled in where the line does not give them; so is the count of
                                 ///< six fields, which lasts for the call alone
-    LineMeaning meaning;        ///< the object that was placed, or why the line was dropped
+    bool isLengthGuessed = false; ///< a STRING of six fields whose tag the database does not hold: one register
+    LineMeaning meaning;          ///< the object that was placed, or why the line was dropped
 };
 
 /// Is told each line, dropped ones too, first to last.
@@ -28,6 +29,6 @@ using LineObserver = std::function<void(const DefinitionFileLine&)>;
 /// @param text      UTF-8, lines ended in any way
 /// @param tags      sizes the STRING objects of 6-field lines
 /// @param observer  may be empty; the map shows the objects after the last line only
-/// @return true when every object that was placed begins in its space and no other lies over it
+/// @return true when saving would write a line for each object that was placed, with the byte order that it names
 /// @throws std::bad_alloc when there is not enough memory; the map then holds any part of the objects
 bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer = {});

@@ -1,11 +1,32 @@
 #include "map/Document.h"
 
 #include "files/OldBytes.h"
-#include "map/DefinitionFile.h"
+#include "files/ReadFile.h"
+#include "files/RescueCopy.h"
 #include "map/Validation.h"
 
+#include <new>
+#include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
+
+namespace
+{
+
+bool keepInFolder(const std::filesystem::path& file, const std::filesystem::path& folder)
+try
+{
+    const std::optional<std::string> bytes = readFile(file);
+    std::filesystem::path name = file.filename();
+    return bytes && RescueCopy(folder).write(name += '~', *bytes);
+}
+catch (const std::bad_alloc&)
+{
+    return false;
+}
+
+} // namespace
 
 Document::Document(std::filesystem::path databaseFile, std::filesystem::path definitionFile, long swapFlags)
     : defaultByteOrder(DefaultByteOrder::fromSwapFlags(swapFlags)), definitionPath(std::move(definitionFile)),
@@ -21,9 +42,8 @@ LoadResult Document::loadDatabase()
 
 void Document::loadDefinition()
 {
-    const DefinitionLoad load = loadDefinitionFile(definitionPath, map, database.tags);
-    fileHoldsMore = load == DefinitionLoad::Partial || load == DefinitionLoad::Unreadable;
-    if (isLoaded(load))
+    onDisk = loadDefinitionFile(definitionPath, map, database.tags);
+    if (isLoaded(onDisk))
         validate();
     // Also for a map without a file: only what the user changes from here on is worth a question on leaving.
     map.takeSnapshot();
@@ -37,15 +57,19 @@ void Document::validate()
 bool Document::saveDefinition()
 {
     settled = keepWhatIsLost() && saveDefinitionFile(definitionPath, map);
+    // Old bytes are kept once: from here on the file holds what a save made of it.
+    if (settled)
+        onDisk = DefinitionLoad::Whole;
     return settled;
 }
 
-bool Document::keepWhatIsLost()
+bool Document::keepWhatIsLost() const
 {
     std::error_code ignored;
-    if (fileHoldsMore && std::filesystem::is_regular_file(definitionPath, ignored) && !keepOldBytes(definitionPath))
-        return false;
-    // Once: from here on the file holds what a save made of it.
-    fileHoldsMore = false;
-    return true;
+    const bool holdsMore = onDisk == DefinitionLoad::Partial || onDisk == DefinitionLoad::Unreadable;
+    if (!holdsMore || !std::filesystem::is_regular_file(definitionPath, ignored))
+        return true;
+    // The day's work is worth more than the lines that did not get into the map, so these do not hold it up.
+    return keepOldBytes(definitionPath) || keepInFolder(definitionPath, spareFolder) ||
+           onDisk == DefinitionLoad::Partial;
 }

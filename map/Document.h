@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/DefaultByteOrder.h"
+#include "map/DefinitionFile.h"
 #include "map/RegisterMap.h"
 #include "source/TagDatabase.h"
 #include "source/TagDatabaseLoader.h"
@@ -33,8 +34,9 @@ public:
     /// Writes the definition file.
     ///
     /// When the file at the start held anything that is not written back (it could not be read, a line was dropped, a
-    /// text cut off), the first save keeps its bytes beside it, under its name with "~" behind it. Where that fails
-    /// nothing is written: the file may be their only copy, while unsaved changes go into a rescue copy.
+    /// text cut off), the first save keeps its bytes beside it, under its name and "~", or else in `spareFolder`. A
+    /// file that could not be read at all is written over only when one of the two has worked: the map holds nothing of
+    /// it. What others put into the file while it was open is not looked at.
     /// @return false when it could not be written; the file is then what it was, and the changes are still unsaved
     bool saveDefinition();
 
@@ -48,12 +50,14 @@ public:
     TagDatabase database;
     DefaultByteOrder defaultByteOrder;    ///< of objects made from tags; lasts for this run
     std::filesystem::path definitionPath; ///< empty when there is no file to save to yet
+    std::filesystem::path spareFolder;    ///< takes old bytes that the file's own folder does not; empty for none
 
 private:
-    /// @return false when the file holds what a save would lose, and that could not be kept
-    bool keepWhatIsLost();
+    /// Keeps the file's bytes where a save would lose some of them.
+    /// @return false when the file must stay as it is: they could not be kept, and the map holds nothing of them
+    bool keepWhatIsLost() const;
 
     std::filesystem::path databasePath;
-    bool fileHoldsMore = false;
+    DefinitionLoad onDisk = DefinitionLoad::NoFile; ///< how the map holds what the file holds
     bool settled = false;
 };

@@ -1,10 +1,9 @@
 #include "map/WrittenBack.h"
 
-#include "text/Integers.h"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string>
 #include <variant>
 
 namespace
@@ -26,14 +25,23 @@ bool isOrderWrittenBack(std::string_view order, const DefinitionObject& object)
     const auto names = std::ranges::count(std::array{object.SwapBytes, object.SwapWords, object.SwapLongs}, true);
     if (names == 0)
         return order.empty() || order == "NONE";
-    // Each name is in it, so an order that is no longer than these with a "+" between them says nothing else.
-    constexpr std::ptrdiff_t nameLength = 5;
-    return std::ssize(order) == names * nameLength + names - 1;
+    // Each name is in it, so an order of as many characters, with a "+" between the names, says nothing else.
+    constexpr std::size_t nameLength = 5;
+    for (std::size_t plus = nameLength; plus < order.size(); plus += nameLength + 1)
+    {
+        if (order[plus] != '+')
+            return false;
+    }
+    return std::ssize(order) == names * static_cast<std::ptrdiff_t>(nameLength) + names - 1;
 }
 
 bool isCountWrittenBack(std::string_view count, const DefinitionObject& object)
 {
-    return count.empty() || (isNumber(count) && parseInteger(count) == object.count);
+    if (count.empty())
+        return true;
+    // Compared as texts: a number beyond 32 bits is read as the largest one.
+    const std::size_t zeros = count.find_first_not_of('0');
+    return zeros != std::string_view::npos && count.substr(zeros) == std::to_string(object.count);
 }
 
 bool isLockWrittenBack(std::string_view lock, const DefinitionObject& object)
@@ -41,7 +49,7 @@ bool isLockWrittenBack(std::string_view lock, const DefinitionObject& object)
     return lock.empty() || lock == (object.locked ? "LOCKED" : "UNLOCKED");
 }
 
-/// The status is judged anew; only words that are none are lost.
+/// The status is judged anew at every start, so nothing is lost with it. Any other word is a remark.
 bool isStatusWrittenBack(std::string_view status)
 {
     return status.empty() || status == "OK" || status == "ERROR";
@@ -61,6 +69,6 @@ bool areWrittenBack(const DefinitionFields& fields, const DefinitionObject& obje
 bool isWrittenBack(const DefinitionFileLine& line)
 {
     if (const auto* const object = std::get_if<DefinitionObject>(&line.meaning))
-        return areWrittenBack(line.fields, *object);
+        return !line.isLengthGuessed && areWrittenBack(line.fields, *object);
     return !saysAnything(line.text);
 }

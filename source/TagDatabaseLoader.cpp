@@ -14,7 +14,8 @@
 //   readTolerantJson, which tells a TagDatabaseBuilder what it finds piece by piece, or "Bad JSON format"
 //   takeOver     what is there, up to the first thing that is missing
 //
-// The bytes are handed on from step to step, not copied: a file may have 200 MB.
+// UTF-8 is handed on from step to step, not copied: a file may have 200 MB. Only another encoding, and mending what is
+// not strict JSON, make a second text.
 
 namespace
 {

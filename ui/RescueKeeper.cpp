@@ -7,6 +7,7 @@
 #include "map/DefinitionFile.h"
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <new>
@@ -38,8 +39,10 @@ try
         return;
     std::string text = definitionText(document.map);
     const std::size_t hash = std::hash<std::string>{}(text);
-    // Unsaved but the same as a minute ago: the copy on the disk is still right.
-    if (hash == writtenText)
+    // Unsaved but the same as a minute ago: the copy on the disk is still right, if newer ones of other runs have not
+    // taken its place.
+    std::error_code ignored;
+    if (hash == writtenText && std::filesystem::exists(copy.file(), ignored))
         return;
     writtenText = hash;
     writing = std::async(std::launch::async, [this, name = document.definitionPath, made = std::move(text)]

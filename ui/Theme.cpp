@@ -57,7 +57,7 @@ Rgb cellColour(MapTone tone)
         return {220, 220, 220};
     case MapTone::Error:
     case MapTone::Lock:
-        // A lock is no error, but it stops commands as surely as one.
+        // Both are what one has to look at before anything can be done with the register.
         return {255, 0, 0};
     case MapTone::Warning:
         return {255, 255, 0};

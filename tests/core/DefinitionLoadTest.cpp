@@ -68,8 +68,9 @@ TEST_F(DefinitionLoadResult, IsPartialWhereBytesBehindAMarkAreNoCharacters)
 
 TEST_F(DefinitionLoadResult, IsWholeForShortFormsAndOtherWaysToSayTheSame)
 {
+    addTag("Name", TagType::String, 12);
     for (const char* const line :
-         {"HOLDING,00010,NONE,STRING,Name,about",                          // counted by the database
+         {"HOLDING,00010,NONE,STRING,Name,about",                          // counted by the database's tag
           "HOLDING,00010,NONE,FLOAT,Name,about",                           // counted by its type
           "HOLDING,00010,NONE,FLOAT,Name,about,2",                         // unlocked
           "HOLDING,00010,NONE,FLOAT,Name,about,,,OK",                      // fields left empty
@@ -94,6 +95,9 @@ TEST_F(DefinitionLoadResult, IsPartialWhenAFieldSaysMoreThanTheMapCanHold)
     for (const char* const line :
          {"HOLDING,00010,NONE,INT16,Name,about{0|1},1,UNLOCKED,OK", "HOLDING,00010,NONE,INT16,Name,{,1,UNLOCKED,OK",
           "HOLDING,00010,NONE,UINT16,Name,about,1,UNLOCKED,OK", "HOLDING,00010,NONE,,Name,about,1,UNLOCKED,OK",
+          "HOLDING,00010,NONE,STRING,Name,about,99999999999,UNLOCKED,OK",
+          "HOLDING,00010,BYTES#WORDS,FLOAT,Name,about,2,UNLOCKED,OK",
+          "HOLDING,00010,BYTESWORDSX,FLOAT,Name,about,2,UNLOCKED,OK",
           "HOLDING,00010,SWAP,INT16,Name,about,1,UNLOCKED,OK", "HOLDING,00010,noBYTES,INT16,Name,about,1,UNLOCKED,OK",
           "HOLDING,00010,NONE,INT32,Name,about,4,UNLOCKED,OK",
           "HOLDING,00010,NONE,STRING,Name,about,4 or 5,UNLOCKED,OK",
@@ -110,15 +114,35 @@ TEST_F(DefinitionLoadResult, IsPartialWhenAnObjectBeginsOutsideItsSpace)
     EXPECT_EQ(loadWith("INPUT,99999999999,NONE,INT16,Name,about,1,UNLOCKED,OK"), Partial);
 }
 
-TEST_F(DefinitionLoadResult, IsPartialWhenOneObjectLiesOverAnother)
+TEST_F(DefinitionLoadResult, IsPartialWhenOneObjectCoversTheHeadOfAnother)
 {
     EXPECT_EQ(loadWith("HOLDING,00001,NONE,INT16,Name,about,1,UNLOCKED,OK"), Partial);
     EXPECT_EQ(loadWith("HOLDING,00000,NONE,FLOAT,Name,about,2,UNLOCKED,OK"), Partial);
-    EXPECT_EQ(
-        loadOf("HOLDING,00000,BYTES,DOUBLE,A,about,4,UNLOCKED,OK\nHOLDING,00002,NONE,INT16,B,about,1,UNLOCKED,OK\n"),
-        Partial);
     EXPECT_EQ(loadWith("HOLDING,00002,NONE,INT16,Name,about,1,UNLOCKED,OK"), Whole);
     EXPECT_EQ(loadWith("COIL,00001,NONE,INT16,Name,about,1,UNLOCKED,OK"), Whole);
+}
+
+TEST_F(DefinitionLoadResult, IsWholeWhenOneObjectLiesOverTheEndOfAnother)
+{
+    const std::string overlapping = "HOLDING,00000,NONE,DOUBLE,A,about,4,UNLOCKED,ERROR\n"
+                                    "HOLDING,00002,BYTES,INT32,B,about,2,UNLOCKED,ERROR\n";
+    EXPECT_EQ(loadOf(overlapping), Whole);
+    EXPECT_EQ(saved(), overlapping);
+}
+
+TEST_F(DefinitionLoadResult, IsPartialWhenAnObjectTakesAByteOrderOverFromTheOneBelow)
+{
+    const std::string takenOver = "HOLDING,00000,BYTES,DOUBLE,A,about,4,UNLOCKED,OK\n"
+                                  "HOLDING,00002,NONE,INT16,B,about,1,UNLOCKED,OK\n";
+    EXPECT_EQ(loadOf(takenOver), Partial);
+    EXPECT_EQ(loadOf(saved()), Whole);
+}
+
+TEST_F(DefinitionLoadResult, IsPartialWhenTheDatabaseHasNoLengthForALineWithoutOne)
+{
+    EXPECT_EQ(loadOf("HOLDING,00010,NONE,STRING,Unknown,about\n"), Partial);
+    EXPECT_EQ(loadOf("HOLDING,00010,NONE,STRING,,about\n"), Partial);
+    EXPECT_EQ(loadOf("HOLDING,00010,NONE,FLOAT,Unknown,about\n"), Whole);
 }
 
 TEST_F(DefinitionLoadResult, IsPartialWhenThereAreMoreObjectsThanSlots)

@@ -137,12 +137,23 @@ TEST_F(ChangedDocument, KeepsOldBytesOnlyWhenItIsSaved)
     EXPECT_EQ(readFile(file), remarkAndObject);
 }
 
-TEST_F(ChangedDocument, IsNotWrittenOverTheOnlyCopyOfOldBytes)
+TEST_F(ChangedDocument, KeepsOldBytesInTheSpareFolderWhereTheFilesOwnTakesNone)
 {
     std::filesystem::create_directory(oldBytes);
-    EXPECT_FALSE(open(remarkAndObject).saveDefinition());
-    EXPECT_EQ(readFile(file), remarkAndObject);
-    EXPECT_TRUE(document.hasUnsavedChanges());
+    document.spareFolder = folder / "spare";
+    EXPECT_TRUE(open(remarkAndObject).saveDefinition());
+    EXPECT_EQ(readFile(file), definitionText(document.map));
+    const std::filesystem::directory_iterator kept(document.spareFolder);
+    ASSERT_NE(kept, std::filesystem::directory_iterator());
+    EXPECT_EQ(kept->path().extension(), ".csv~");
+    EXPECT_EQ(readFile(kept->path()), remarkAndObject);
+}
+
+TEST_F(ChangedDocument, IsWrittenOverLinesThatNoFolderTakes)
+{
+    std::filesystem::create_directory(oldBytes);
+    EXPECT_TRUE(open(remarkAndObject).saveDefinition());
+    EXPECT_EQ(readFile(file), definitionText(document.map));
 }
 
 TEST_F(ChangedDocument, IsWrittenWhereTheFileThatHeldMoreIsGone)

@@ -59,6 +59,22 @@ TEST(RescueCopy, OfWorkWithoutANameIsCalledMap)
     EXPECT_EQ(shapeOf(copy.file()), "map-########-######");
 }
 
+TEST(RescueCopy, OfWorkWithAVeryLongNameHasItsBeginning)
+{
+    const TempFolder folder;
+    std::string name = "x"; // so that no character ends where the name is cut
+    for (int letter = 0; letter < 125; ++letter)
+        name += "ä";
+    RescueCopy copy(folder / "rescue");
+    ASSERT_TRUE(copy.write(name + ".csv", "the map"));
+    EXPECT_EQ(shapeOf(copy.file()), name.substr(0, 159) + "-########-######.csv");
+    EXPECT_EQ(readFile(copy.file()), "the map");
+
+    RescueCopy other(folder / "rescue");
+    ASSERT_TRUE(other.write("plant." + std::string(240, 'y'), "another"));
+    EXPECT_EQ(shapeOf(other.file()), "plant-########-######." + std::string(31, 'y'));
+}
+
 TEST(RescueCopy, AndItsFolderAreTheUsersAlone)
 {
     const TempFolder folder;

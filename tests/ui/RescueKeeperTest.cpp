@@ -33,6 +33,18 @@ TEST(RescueKeeper, RefreshesItsCopyAfterEachIntervalWithChanges)
     EXPECT_TRUE(waitUntil(holdsTheMap));
 }
 
+TEST(RescueKeeper, WritesItsCopyAgainWhenOtherRunsHavePushedItOut)
+{
+    const TempFolder folder;
+    Document document("", folder / "north.csv", 0);
+    RescueKeeper keeper(document, folder / "rescue", quickly);
+    change(document, 3);
+    const auto holdsTheMap = [&] { return readFile(keeper.file()) == definitionText(document.map); };
+    ASSERT_TRUE(waitUntil(holdsTheMap));
+    std::filesystem::remove(keeper.file());
+    EXPECT_TRUE(waitUntil(holdsTheMap));
+}
+
 TEST(RescueKeeper, TriesAgainWhenACopyCouldNotBeWritten)
 {
     const TempFolder folder;
