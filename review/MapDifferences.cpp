@@ -1,6 +1,7 @@
 #include "review/MapDifferences.h"
 
 #include "map/WrittenObjects.h"
+#include "review/HeldRegisters.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -11,9 +12,38 @@
 namespace
 {
 
-/// Appends what differs between two states of the same object.
-void appendKinds(std::vector<ChangeKind>& kinds, const MapObject& before, const MapObject& after)
+/// What each object of a map holds.
+class HeldRegistersOfMap
 {
+public:
+    explicit HeldRegistersOfMap(const RegisterMap& map)
+    {
+        spaces.reserve(allSpaces.size());
+        for (const RegisterSpace space : allSpaces)
+            spaces.emplace_back(map.slots(space));
+    }
+
+    std::span<const std::uint32_t> of(const MapObject& object) const
+    {
+        return spaces[static_cast<std::size_t>(object.space)].of(object.head.address);
+    }
+
+private:
+    std::vector<HeldRegisters> spaces;
+};
+
+/// Registers that both states of an object would hold if no other object took any.
+std::uint32_t commonRegisters(const RegisterEntry& was, const RegisterEntry& is)
+{
+    const auto inSpace = [](const RegisterEntry& head)
+    { return std::min<std::uint32_t>(head.registerCount, registersPerSpace - head.address); };
+    return std::min(inSpace(was), inSpace(is));
+}
+
+/// What differs between two states of the same object, in the order of the kinds.
+std::vector<ChangeKind> kindsOf(const MapObject& before, const MapObject& after, bool overwritten, bool uncovered)
+{
+    std::vector<ChangeKind> kinds;
     const RegisterEntry& was = before.head;
     const RegisterEntry& is = after.head;
     const auto append = [&](bool changed, ChangeKind kind)
@@ -24,10 +54,13 @@ void appendKinds(std::vector<ChangeKind>& kinds, const MapObject& before, const 
     append(before.space != after.space || was.address != is.address, ChangeKind::Moved);
     append(was.type != is.type, ChangeKind::Retyped);
     append(was.registerCount != is.registerCount, ChangeKind::Resized);
+    append(overwritten, ChangeKind::Overwritten);
+    append(uncovered, ChangeKind::Uncovered);
     append(byteOrderCharacters(was) != byteOrderCharacters(is), ChangeKind::ByteOrder);
     append(was.write != is.write, ChangeKind::Write);
     append(was.description != is.description, ChangeKind::Description);
     append(was.locked != is.locked, ChangeKind::Lock);
+    return kinds;
 }
 
 /// What an object has to share with one that is gone to be taken for it.
@@ -106,6 +139,8 @@ private:
 class Comparison
 {
 public:
+    Comparison(const RegisterMap& before, const RegisterMap& after) : heldBefore(before), heldAfter(after) {}
+
     void compareSlots(RegisterSpace space, const RegisterEntry& was, const RegisterEntry& is)
     {
         const bool wasObject = isWritten(was);
@@ -138,10 +173,21 @@ public:
 private:
     void addSame(const MapObject& before, const MapObject& after)
     {
-        std::vector<ChangeKind> kinds;
-        appendKinds(kinds, before, after);
-        if (!kinds.empty())
-            changes.push_back({before, after, std::move(kinds)});
+        const std::span<const std::uint32_t> had = heldBefore.of(before);
+        const std::span<const std::uint32_t> has = heldAfter.of(after);
+        const std::uint32_t common = commonRegisters(before.head, after.head);
+        std::optional<std::uint32_t> lost = firstHeldOnlyIn(had, has, common);
+        std::optional<std::uint32_t> found = firstHeldOnlyIn(has, had, common);
+        std::vector<ChangeKind> kinds = kindsOf(before, after, lost.has_value(), found.has_value());
+        if (kinds.empty())
+            return;
+        // From here on they are addresses.
+        for (std::optional<std::uint32_t>* const distance : {&lost, &found})
+        {
+            if (*distance)
+                **distance += after.head.address;
+        }
+        changes.push_back({before, after, std::move(kinds), lost, found});
     }
 
     void pairMoved(bool insideSpace)
@@ -159,6 +205,8 @@ private:
         come = arrivals.rest();
     }
 
+    HeldRegistersOfMap heldBefore;
+    HeldRegistersOfMap heldAfter;
     std::vector<ObjectChange> changes;
     std::vector<MapObject> gone;
     std::vector<MapObject> come;
@@ -168,7 +216,7 @@ private:
 
 std::vector<ObjectChange> mapDifferences(const RegisterMap& before, const RegisterMap& after)
 {
-    Comparison comparison;
+    Comparison comparison(before, after);
     for (const RegisterSpace space : allSpaces)
     {
         for (int address = 0; address < registersPerSpace; ++address)

@@ -10,6 +10,7 @@
 /// An object of the same tagname at the same address is the same one, whatever else changed. Of the others, one of the
 /// same tagname and type at another address has moved, the first to the first in the order of the map, inside a space
 /// before across spaces. What is left is removed or added: another tagname at an address is another object.
+/// An object counts as changed, too, when another one has taken registers of it, or has given them back.
 /// Only objects that a file has a line for are compared, and not what validation says about them.
 /// @return by space and address of the object now, or where it was when it is gone; at one address the removed one
 ///         comes first

@@ -12,15 +12,17 @@ struct ChangeFacts
     bool breaking;
 };
 
-constexpr std::array<ChangeFacts, 9> facts{{{"added", false},
-                                            {"removed", true},
-                                            {"moved", true},
-                                            {"type", true},
-                                            {"size", true},
-                                            {"byte order", true},
-                                            {"write", true},
-                                            {"description", false},
-                                            {"lock", false}}};
+constexpr std::array<ChangeFacts, 11> facts{{{"added", false},
+                                             {"removed", true},
+                                             {"moved", true},
+                                             {"type", true},
+                                             {"size", true},
+                                             {"overwritten", true},
+                                             {"uncovered", true},
+                                             {"byte order", true},
+                                             {"write", true},
+                                             {"description", false},
+                                             {"lock", false}}};
 
 } // namespace
 

@@ -16,6 +16,8 @@ enum class ChangeKind : std::uint8_t
     Moved,       ///< same tagname and type at another address
     Retyped,     ///< another type
     Resized,     ///< another number of registers
+    Overwritten, ///< another object has taken registers of it
+    Uncovered,   ///< it has registers again that another object had taken
     ByteOrder,   ///< other swap flags
     Write,       ///< the master may write it now, or may no more
     Description, ///< other words
@@ -32,9 +34,11 @@ struct MapObject
 /// An object that is not the same in two maps.
 struct ObjectChange
 {
-    std::optional<MapObject> before; ///< nothing when it was added
-    std::optional<MapObject> after;  ///< nothing when it was removed
-    std::vector<ChangeKind> kinds;   ///< at least one, ascending
+    std::optional<MapObject> before;                           ///< nothing when it was added
+    std::optional<MapObject> after;                            ///< nothing when it was removed
+    std::vector<ChangeKind> kinds;                             ///< at least one, ascending
+    std::optional<std::uint32_t> overwrittenAt = std::nullopt; ///< first register of it that another object has taken
+    std::optional<std::uint32_t> uncoveredAt = std::nullopt;   ///< first register of it that it has again
 
     /// The object where it is now, or where it was when it is gone.
     const MapObject& object() const { return after ? *after : *before; }
@@ -49,6 +53,6 @@ struct ObjectChange
 /// The word for a change in reports, such as "byte order".
 std::string_view changeName(ChangeKind kind);
 
-/// True for a change that a polling master notices: address, type, size, byte order, write permission, an object that
-/// is gone. A new object is at an address that it does not poll yet.
+/// True for a change that a polling master notices: address, type, size, registers that another object took, byte
+/// order, write permission, an object that is gone. A new object is at an address that it does not poll yet.
 bool isBreaking(ChangeKind kind);

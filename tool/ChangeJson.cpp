@@ -35,6 +35,10 @@ void writeChange(JsonText& json, const ObjectChange& change)
     json.endArray();
     json.memberIs("breaking", change.isBreaking());
     json.memberIs("wasLocked", change.breaksLock());
+    if (change.overwrittenAt)
+        json.member("overwrittenAt", *change.overwrittenAt);
+    if (change.uncoveredAt)
+        json.member("uncoveredAt", *change.uncoveredAt);
     writeObject(json, "before", change.before);
     writeObject(json, "after", change.after);
     json.endObject();

@@ -48,6 +48,10 @@ std::string detail(const ObjectChange& change, ChangeKind kind)
         return fromTo(std::string(typeName(change.before->head.type)), std::string(typeName(change.after->head.type)));
     case ChangeKind::Resized:
         return fromTo(countOf(*change.before), countOf(*change.after));
+    case ChangeKind::Overwritten:
+        return " at " + addressText(*change.overwrittenAt);
+    case ChangeKind::Uncovered:
+        return " at " + addressText(*change.uncoveredAt);
     case ChangeKind::ByteOrder:
         return fromTo(orderOf(*change.before), orderOf(*change.after));
     case ChangeKind::Write:

@@ -20,11 +20,23 @@
 namespace
 {
 
-/// An object by everything that a file says about it, and where.
+/// An object by everything that a file says about it, where it is, and which of its registers it holds.
 using Written = std::tuple<RegisterSpace, std::uint32_t, std::string_view, DataType, std::uint32_t, std::string, bool,
-                           std::string_view, bool>;
+                           std::string_view, bool, std::vector<std::uint32_t>>;
 
-Written writtenOf(RegisterSpace space, const RegisterEntry& head)
+std::vector<std::uint32_t> heldBy(const RegisterMap& map, RegisterSpace space, const RegisterEntry& head)
+{
+    std::vector<std::uint32_t> held;
+    for (std::uint32_t i = 0; i < head.registerCount; ++i)
+    {
+        const RegisterEntry& slot = map.slots(space)[static_cast<int>(head.address + i)];
+        if (slot.used && slot.startAddress == head.address)
+            held.push_back(i);
+    }
+    return held;
+}
+
+Written writtenOf(const RegisterMap& map, RegisterSpace space, const RegisterEntry& head)
 {
     const auto order = byteOrderCharacters(head);
     return {space,
@@ -35,7 +47,8 @@ Written writtenOf(RegisterSpace space, const RegisterEntry& head)
             std::string(order.begin(), order.end()),
             head.write,
             head.description.view(),
-            head.locked};
+            head.locked,
+            heldBy(map, space, head)};
 }
 
 std::set<Written> objectsOf(const RegisterMap& map)
@@ -46,7 +59,7 @@ std::set<Written> objectsOf(const RegisterMap& map)
         for (const RegisterEntry& slot : map.slots(space))
         {
             if (isWritten(slot))
-                objects.insert(writtenOf(space, slot));
+                objects.insert(writtenOf(map, space, slot));
         }
     }
     return objects;
@@ -81,7 +94,7 @@ public:
     {
         RegisterSlots& slots = map.currentSlots();
         const MoveDirection direction = chance.oneOf({MoveDirection::Up, MoveDirection::Down});
-        switch (chance.pick(0, 7))
+        switch (chance.pick(0, 8))
         {
         case 0:
             cutRegisters(map, selection());
@@ -103,6 +116,9 @@ public:
             break;
         case 6:
             replaceInTagnames(slots, selection(), "A", chance.oneOf({"AB", "C"}));
+            break;
+        case 7:
+            place(slots, head() + chance.pick(0, 2), registerOf(chance.oneOf({"AA", "D"}), chance.oneOf({1, 2})));
             break;
         default:
             change(head());
@@ -155,14 +171,15 @@ private:
 };
 
 /// What the changes name on one side; fails when they name an object twice.
-std::set<Written> named(const std::vector<ObjectChange>& changes, std::optional<MapObject> ObjectChange::*side)
+std::set<Written> named(const RegisterMap& map, const std::vector<ObjectChange>& changes,
+                        std::optional<MapObject> ObjectChange::*side)
 {
     std::set<Written> objects;
     for (const ObjectChange& change : changes)
     {
         if (const auto& object = change.*side)
         {
-            EXPECT_TRUE(objects.insert(writtenOf(object->space, object->head)).second);
+            EXPECT_TRUE(objects.insert(writtenOf(map, object->space, object->head)).second);
         }
     }
     return objects;
@@ -174,15 +191,15 @@ bool has(const ObjectChange& change, ChangeKind kind)
 }
 
 /// Fails when the kinds say anything but what differs.
-void expectTrueKinds(const ObjectChange& change)
+void expectTrueKinds(const EditedMap& edited, const ObjectChange& change)
 {
     ASSERT_FALSE(change.kinds.empty());
     EXPECT_EQ(has(change, ChangeKind::Added), !change.before);
     EXPECT_EQ(has(change, ChangeKind::Removed), !change.after);
     if (!change.before || !change.after)
         return;
-    const Written was = writtenOf(change.before->space, change.before->head);
-    const Written is = writtenOf(change.after->space, change.after->head);
+    const Written was = writtenOf(edited.original, change.before->space, change.before->head);
+    const Written is = writtenOf(edited.map, change.after->space, change.after->head);
     EXPECT_EQ(has(change, ChangeKind::Moved),
               std::get<0>(was) != std::get<0>(is) || std::get<1>(was) != std::get<1>(is));
     EXPECT_EQ(std::get<2>(was), std::get<2>(is));
@@ -192,6 +209,11 @@ void expectTrueKinds(const ObjectChange& change)
     EXPECT_EQ(has(change, ChangeKind::Write), std::get<6>(was) != std::get<6>(is));
     EXPECT_EQ(has(change, ChangeKind::Description), std::get<7>(was) != std::get<7>(is));
     EXPECT_EQ(has(change, ChangeKind::Lock), std::get<8>(was) != std::get<8>(is));
+    if (std::get<4>(was) == std::get<4>(is))
+    {
+        EXPECT_EQ(has(change, ChangeKind::Overwritten) || has(change, ChangeKind::Uncovered),
+                  std::get<9>(was) != std::get<9>(is));
+    }
 }
 
 } // namespace
@@ -210,10 +232,10 @@ TEST(MapDifferencesProperty, AnyEditsAreToldByExactlyTheObjectsThatChanged)
         const std::vector<ObjectChange> changes = mapDifferences(edited.original, edited.map);
         const std::set<Written> before = objectsOf(edited.original);
         const std::set<Written> after = objectsOf(edited.map);
-        EXPECT_EQ(named(changes, &ObjectChange::before), without(before, after)) << "seed " << seed;
-        EXPECT_EQ(named(changes, &ObjectChange::after), without(after, before)) << "seed " << seed;
+        EXPECT_EQ(named(edited.original, changes, &ObjectChange::before), without(before, after)) << "seed " << seed;
+        EXPECT_EQ(named(edited.map, changes, &ObjectChange::after), without(after, before)) << "seed " << seed;
         for (const ObjectChange& change : changes)
-            expectTrueKinds(change);
+            expectTrueKinds(edited, change);
         ASSERT_FALSE(HasFailure()) << "seed " << seed;
         changed += changes.size();
     }

@@ -131,3 +131,36 @@ TEST(MapDifferences, LookAtObjectsThatAFileHasALineForAlone)
                           {"HOLDING,00100,NONE,INT16,B,,1,UNLOCKED,OK"}),
               Said());
 }
+
+TEST(MapDifferences, NameAnObjectWhoseRegistersAnotherOneTook)
+{
+    const std::string name = "HOLDING,00100,NONE,STRING,NAME,Name,6,LOCKED,OK";
+    const std::string run = "HOLDING,00103,NONE,INT16,RUN,Run,1,UNLOCKED,OK";
+    EXPECT_EQ(differences({name}, {name, run}), (Said{"HOLDING100 NAME: overwritten ! L", "HOLDING103 RUN: added"}));
+    EXPECT_EQ(differences({name, run}, {name}), (Said{"HOLDING100 NAME: uncovered ! L", "HOLDING103 RUN: removed !"}));
+    EXPECT_EQ(differences({name, run}, {name, run}), Said());
+    const std::vector<ObjectChange> changes = mapDifferences(mapOf({name}), mapOf({name, run}));
+    ASSERT_EQ(changes.size(), 2U);
+    EXPECT_EQ(changes[0].overwrittenAt, 103U);
+}
+
+TEST(MapDifferences, NameBothWhenAnotherRegisterOfAnObjectIsTaken)
+{
+    const std::string name = "HOLDING,00100,NONE,STRING,NAME,Name,6,UNLOCKED,OK";
+    EXPECT_EQ(differences({name, "HOLDING,103,NONE,INT16,RUN,,1"}, {name, "HOLDING,102,NONE,INT16,RUN,,1"}),
+              (Said{"HOLDING100 NAME: overwritten uncovered !", "HOLDING102 RUN: moved from HOLDING103 !"}));
+}
+
+TEST(MapDifferences, TakeAShorterTextForResizedAloneAndAnOverwrittenOneElsewhereForBoth)
+{
+    EXPECT_EQ(differences({"HOLDING,1,NONE,STRING,NAME,,6"}, {"HOLDING,1,NONE,STRING,NAME,,4"}),
+              Said{"HOLDING1 NAME: size !"});
+    EXPECT_EQ(differences({"HOLDING,1,NONE,FLOAT,A,,2"}, {"HOLDING,11,NONE,FLOAT,A,,2", "HOLDING,12,NONE,INT16,B,,1"}),
+              (Said{"HOLDING11 A: moved overwritten from HOLDING1 !", "HOLDING12 B: added"}));
+}
+
+TEST(MapDifferences, AreNoneWhereTheEndOfTheSpaceCutsTheSameObjectOff)
+{
+    const std::string last = "HOLDING,65534,NONE,DOUBLE,A,,4,UNLOCKED,OK";
+    EXPECT_EQ(differences({last}, {last}), Said());
+}

@@ -63,6 +63,15 @@ TEST_F(Diff, EndsWithThreeWhenALockedObjectChanged)
               "~ HOLDING 00200 LEVEL: lock taken off error: the object was locked\n");
 }
 
+TEST_F(Diff, EndsWithThreeWhenANewObjectTakesRegistersOfALockedOne)
+{
+    const std::string name = "HOLDING,00100,NONE,STRING,TK1_NAME,Name,6,LOCKED,OK\n";
+    const ToolRun run = diff(name, name + "HOLDING,00103,NONE,INT16,P2_RUN,Run,1,UNLOCKED,OK\n");
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.output, "~ HOLDING 00100 TK1_NAME: overwritten at 00103 [breaking] error: the object was locked\n"
+                          "+ HOLDING 00103 P2_RUN: added, INT16, 1 register\n");
+}
+
 TEST_F(Diff, WritesNothingWhenQuiet)
 {
     const ToolRun run = diff(speed, "", {"--quiet"});
