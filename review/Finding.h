@@ -9,24 +9,26 @@
 /// What may be wrong with a line of a definition file, in the order in which one line's findings are told.
 enum class Rule : std::uint8_t
 {
-    DroppedLine, ///< the editor drops the line
-    BlankLine,   ///< the line is empty and will be gone after saving
-    BadNumber,   ///< an address or count is no whole number and is read as another
-    CutOff,      ///< not all registers lie in 0..65535
-    Overlap,     ///< it takes registers of an earlier line
-    Brace,       ///< the description is read up to its "{" only
-    UnknownTag,  ///< error mark: no tag has the name
-    BadType,     ///< error mark: the type does not suit the tag
-    BadWrite,    ///< error mark: the tag cannot be written
-    UnknownType, ///< the type is no known one and is read as INT16
-    BitSpace,    ///< more than a bit in a space of single bits
-    OtherForm,   ///< saving writes the line in another form
-    Order,       ///< saving writes the line at another place
-    Encoding     ///< saving writes other bytes for the same text
+    DroppedLine,  ///< the editor drops the line
+    BlankLine,    ///< the line is empty and will be gone after saving
+    BadNumber,    ///< an address or count is no whole number and is read as another
+    UnknownType,  ///< the type is no known one and is read as INT16
+    UnknownOrder, ///< the byte order holds a word that is none of its four
+    UnknownLock,  ///< the lock is neither "LOCKED" nor "UNLOCKED"
+    CutOff,       ///< not all registers lie in 0..65535
+    Overlap,      ///< it takes registers of an earlier line
+    Brace,        ///< the description is read up to its "{" only
+    UnknownTag,   ///< error mark: no tag has the name
+    BadType,      ///< error mark: the type does not suit the tag
+    BadWrite,     ///< error mark: the tag cannot be written
+    BitSpace,     ///< more than a bit in a space of single bits
+    OtherForm,    ///< saving writes the line in another form
+    Order,        ///< saving writes the line at another place
+    Encoding      ///< saving writes other bytes for the same text
 };
 
 /// Number of rules.
-constexpr std::size_t ruleCount = 14;
+constexpr std::size_t ruleCount = 16;
 
 /// How bad a finding is.
 enum class Severity : std::uint8_t

@@ -1,6 +1,7 @@
 #include "review/LineFindings.h"
 
 #include "map/PublishedName.h"
+#include "review/WordFindings.h"
 #include "text/Characters.h"
 #include "text/Integers.h"
 
@@ -137,8 +138,7 @@ void appendLineFindings(Findings& findings, const DefinitionFileLine& line, cons
     if (object.description.size() < line.fields.description.size())
         append(findings, placed, Rule::Brace,
                "the description is read up to its \"{\" only, as " + inQuotes(object.description));
-    if (typeName(object.type) != line.fields.type)
-        append(findings, placed, Rule::UnknownType, "the type " + inQuotes(line.fields.type) + " is read as INT16");
+    appendWordFindings(findings, line, placed);
     if (isBitSpace(object.space) && object.type != DataType::Int16)
         append(findings, placed, Rule::BitSpace,
                "a " + std::string(typeName(object.type)) + " in a space of single bits");

@@ -9,7 +9,7 @@
 Finding droppedLineFinding(const DefinitionFileLine& line, LineFault fault);
 
 /// Appends what a placed line alone shows to be wrong: numbers that are none, registers outside the space, a brace in
-/// its description, an unknown type, more than a bit in a space of single bits.
+/// its description, unknown words, more than a bit in a space of single bits.
 /// @param line    as the reader tells it
 /// @param placed  the same line
 void appendLineFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed);

@@ -147,10 +147,41 @@ TEST(MapReview, FindsABraceInADescription)
               Said{"1 brace: the description is read up to its \"{\" only, as \"Speed \""});
 }
 
-TEST(MapReview, WarnsOfATypeThatIsReadAsInt16)
+TEST(MapReview, FindsATypeThatIsReadAsInt16)
 {
-    EXPECT_EQ(saidOf({"HOLDING,00100,NONE,BOOL,TANK_LEVEL,,1,UNLOCKED,OK"}),
-              Said{"1 unknown-type: the type \"BOOL\" is read as INT16"});
+    EXPECT_EQ(saidOf({"HOLDING,00100,NONE,BOOL,TANK_LEVEL,,1,UNLOCKED,OK",
+                      "HOLDING,00102,NONE,float,PUMP_SPEED,,2,UNLOCKED,OK"}),
+              (Said{"1 unknown-type: the type \"BOOL\" is read as INT16 of 1 register",
+                    "2 unknown-type: the type \"float\" is read as INT16 of 1 register"}));
+}
+
+TEST(MapReview, FindsWordsThatMeanNoByteOrder)
+{
+    const auto of = [](const std::string& order)
+    { return saidOf({"HOLDING,00100," + order + ",FLOAT,PUMP_SPEED,,2,UNLOCKED,OK"}); };
+    const std::string none = " is none of NONE, BYTES, WORDS, LONGS: the byte order ";
+    EXPECT_EQ(of("BYTES+WORD"), Said{"1 unknown-order: \"WORD\"" + none + "\"BYTES+WORD\" is read as BYTES"});
+    EXPECT_EQ(of("words"), Said{"1 unknown-order: \"words\"" + none + "\"words\" is read as NONE"});
+    EXPECT_EQ(of("xLONGS+WORDS"),
+              Said{"1 unknown-order: \"xLONGS\"" + none + "\"xLONGS+WORDS\" is read as WORDS+LONGS"});
+    EXPECT_EQ(of("BYTES+WORDS"), Said());
+    EXPECT_EQ(of("WORDS + BYTES").size(), 1U) << "only another form";
+    EXPECT_EQ(of("WORDS + BYTES")[0].find("unknown-order"), std::string::npos);
+}
+
+TEST(MapReview, FindsALockThatIsNone)
+{
+    EXPECT_EQ(saidOf({"HOLDING,00100,NONE,FLOAT,PUMP_SPEED,,2,locked,OK", "HOLDING,00102,NONE,FLOAT,PUMP_SPEED,,2,,OK",
+                      "HOLDING,00104,NONE,FLOAT,PUMP_SPEED,,2,LOCKED!,OK"}),
+              (Said{"1 unknown-lock: the lock \"locked\" is read as UNLOCKED",
+                    "2 unknown-lock: the lock \"\" is read as UNLOCKED",
+                    "3 unknown-lock: the lock \"LOCKED!\" is read as LOCKED"}));
+}
+
+TEST(MapReview, TakesWhatReadingChangesInSilenceForAnError)
+{
+    for (const Rule rule : {Rule::UnknownType, Rule::UnknownOrder, Rule::UnknownLock})
+        EXPECT_EQ(severityOf(rule), Severity::Error) << ruleName(rule);
 }
 
 TEST(MapReview, WarnsOfMoreThanABitInCoilAndStatusAlone)

@@ -1,0 +1,79 @@
+#include "review/WordFindings.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace
+{
+
+constexpr std::array<std::string_view, 4> orderWords{"NONE", "BYTES", "WORDS", "LONGS"};
+
+std::string inQuotes(std::string_view text)
+{
+    return '"' + std::string(text) + '"';
+}
+
+void append(Findings& findings, const PlacedLine& placed, Rule rule, std::string message)
+{
+    Finding finding = findingAbout(placed, rule);
+    finding.message = std::move(message);
+    findings.push_back(std::move(finding));
+}
+
+/// The byte order that the reader took from a line, as files write it.
+std::string orderOf(const DefinitionObject& object)
+{
+    std::string order;
+    const auto add = [&](bool set, std::string_view word)
+    {
+        if (set)
+            order += (order.empty() ? "" : "+") + std::string(word);
+    };
+    add(object.SwapBytes, "BYTES");
+    add(object.SwapWords, "WORDS");
+    add(object.SwapLongs, "LONGS");
+    return order.empty() ? "NONE" : order;
+}
+
+/// The first word of a byte order that is none of the four; empty when there is none. Words are joined by "+" or
+/// blanks.
+std::string_view unknownOrderWord(std::string_view order)
+{
+    constexpr std::string_view joints = "+ \t";
+    while (true)
+    {
+        const std::size_t begin = order.find_first_not_of(joints);
+        if (begin == std::string_view::npos)
+            return {};
+        order.remove_prefix(begin);
+        const std::string_view word = order.substr(0, order.find_first_of(joints));
+        if (std::ranges::find(orderWords, word) == orderWords.end())
+            return word;
+        order.remove_prefix(word.size());
+    }
+}
+
+void appendOrderFinding(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
+{
+    const std::string_view word = unknownOrderWord(line.fields.order);
+    if (!word.empty())
+        append(findings, placed, Rule::UnknownOrder,
+               inQuotes(word) + " is none of NONE, BYTES, WORDS, LONGS: the byte order " + inQuotes(line.fields.order) +
+                   " is read as " + orderOf(placed.object));
+}
+
+} // namespace
+
+void appendWordFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
+{
+    const DefinitionObject& object = placed.object;
+    if (typeName(object.type) != line.fields.type)
+        append(findings, placed, Rule::UnknownType,
+               "the type " + inQuotes(line.fields.type) + " is read as " + std::string(typeName(object.type)) + " of " +
+                   std::to_string(object.count) + (object.count == 1 ? " register" : " registers"));
+    appendOrderFinding(findings, line, placed);
+    if (line.fields.lock != "LOCKED" && line.fields.lock != "UNLOCKED")
+        append(findings, placed, Rule::UnknownLock,
+               "the lock " + inQuotes(line.fields.lock) + " is read as " + (object.locked ? "LOCKED" : "UNLOCKED"));
+}
