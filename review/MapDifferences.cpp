@@ -53,7 +53,7 @@ std::vector<ChangeKind> kindsOf(const MapObject& before, const MapObject& after,
     };
     append(before.space != after.space || was.address != is.address, ChangeKind::Moved);
     append(was.type != is.type, ChangeKind::Retyped);
-    append(was.registerCount != is.registerCount, ChangeKind::Resized);
+    append(before.sized && after.sized && was.registerCount != is.registerCount, ChangeKind::Resized);
     append(overwritten, ChangeKind::Overwritten);
     append(uncovered, ChangeKind::Uncovered);
     append(byteOrderCharacters(was) != byteOrderCharacters(is), ChangeKind::ByteOrder);
@@ -141,19 +141,19 @@ class Comparison
 public:
     Comparison(const RegisterMap& before, const RegisterMap& after) : heldBefore(before), heldAfter(after) {}
 
-    void compareSlots(RegisterSpace space, const RegisterEntry& was, const RegisterEntry& is)
+    void compareObjects(const MapObject& before, const MapObject& after)
     {
-        const bool wasObject = isWritten(was);
-        const bool isObject = isWritten(is);
-        if (wasObject && isObject && was.tagname == is.tagname)
+        const bool wasObject = isWritten(before.head);
+        const bool isObject = isWritten(after.head);
+        if (wasObject && isObject && before.head.tagname == after.head.tagname)
         {
-            addSame({space, was}, {space, is});
+            addSame(before, after);
             return;
         }
         if (wasObject)
-            gone.push_back({space, was});
+            gone.push_back(before);
         if (isObject)
-            come.push_back({space, is});
+            come.push_back(after);
     }
 
     std::vector<ObjectChange> finish()
@@ -214,13 +214,15 @@ private:
 
 } // namespace
 
-std::vector<ObjectChange> mapDifferences(const RegisterMap& before, const RegisterMap& after)
+std::vector<ObjectChange> mapDifferences(const RegisterMap& before, const RegisterMap& after,
+                                         const UnsizedTexts& unsizedBefore, const UnsizedTexts& unsizedAfter)
 {
     Comparison comparison(before, after);
     for (const RegisterSpace space : allSpaces)
     {
         for (int address = 0; address < registersPerSpace; ++address)
-            comparison.compareSlots(space, before.slots(space)[address], after.slots(space)[address]);
+            comparison.compareObjects({space, before.slots(space)[address], !unsizedBefore.contains(space, address)},
+                                      {space, after.slots(space)[address], !unsizedAfter.contains(space, address)});
     }
     return comparison.finish();
 }

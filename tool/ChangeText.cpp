@@ -16,6 +16,14 @@ std::string countOf(const MapObject& object)
     return std::to_string(static_cast<std::int32_t>(object.head.registerCount));
 }
 
+/// How long an object is that came or went.
+std::string lengthOf(const MapObject& object)
+{
+    if (!object.sized)
+        return "of unknown length";
+    return countOf(object) + (object.head.registerCount == 1 ? " register" : " registers");
+}
+
 std::string orderOf(const MapObject& object)
 {
     const auto order = byteOrderCharacters(object.head);
@@ -40,8 +48,7 @@ std::string detail(const ObjectChange& change, ChangeKind kind)
     {
     case ChangeKind::Added:
     case ChangeKind::Removed:
-        return ", " + std::string(typeName(object.head.type)) + ", " + countOf(object) +
-               (object.head.registerCount == 1 ? " register" : " registers");
+        return ", " + std::string(typeName(object.head.type)) + ", " + lengthOf(object);
     case ChangeKind::Moved:
         return " from " + addressOf(*change.before);
     case ChangeKind::Retyped:

@@ -25,10 +25,16 @@ std::optional<ChangeReport> compare(const std::string& before, const std::string
     TagDatabase database;
     RegisterMap oldMap;
     RegisterMap newMap;
-    if (!readDatabase(options.databasePath, database) || !readMap(before, database.tags, oldMap) ||
-        !readMap(after, database.tags, newMap))
+    UnsizedTexts oldUnsized;
+    UnsizedTexts newUnsized;
+    const bool sized = !options.databasePath.empty();
+    if (!readDatabase(options.databasePath, database) ||
+        !readMap(before, database.tags, oldMap, sized ? nullptr : &oldUnsized) ||
+        !readMap(after, database.tags, newMap, sized ? nullptr : &newUnsized))
         return std::nullopt;
-    return ChangeReport{shownPath(before), shownPath(after), mapDifferences(oldMap, newMap)};
+    if (!options.git && !options.quiet && !(oldUnsized.isEmpty() && newUnsized.isEmpty()))
+        tell("there are texts whose lines give no length; with --json their sizes are compared, too");
+    return ChangeReport{shownPath(before), shownPath(after), mapDifferences(oldMap, newMap, oldUnsized, newUnsized)};
 }
 
 std::string written(const ChangeReport& report, ReportFormat format)

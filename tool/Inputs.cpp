@@ -26,6 +26,15 @@ std::optional<std::string> cannotRead(const std::string& path, const std::string
     return std::nullopt;
 }
 
+void noteLength(const DefinitionFileLine& line, UnsizedTexts& unsized)
+{
+    constexpr std::size_t formWithoutCount = 6;
+    const auto* const object = std::get_if<DefinitionObject>(&line.meaning);
+    if (object != nullptr && RegisterSlots::contains(object->start))
+        unsized.set(object->space, object->start,
+                    object->type == DataType::String && line.fieldCount == formWithoutCount);
+}
+
 } // namespace
 
 std::string shownPath(const std::string& path)
@@ -75,7 +84,7 @@ bool readDatabase(const std::string& path, TagDatabase& database)
     return false;
 }
 
-bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map)
+bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts* unsized)
 {
     std::optional<std::string> bytes = readInput(path);
     if (!bytes)
@@ -87,6 +96,8 @@ bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map)
                    {
                        if (!line.text.empty() && std::holds_alternative<LineFault>(line.meaning))
                            ++dropped;
+                       if (unsized != nullptr)
+                           noteLength(line, *unsized);
                    });
     if (dropped > 0)
         tell(shownPath(path) + ": lines left out as the editor does: " + std::to_string(dropped) +

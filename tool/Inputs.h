@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/RegisterMap.h"
+#include "review/UnsizedTexts.h"
 #include "source/TagDatabase.h"
 
 #include <optional>
@@ -21,5 +22,6 @@ std::string shownPath(const std::string& path);
 bool readDatabase(const std::string& path, TagDatabase& database);
 
 /// Reads a map as the editor does and tells how many lines it dropped.
+/// @param unsized  gets the texts whose length only a database would tell, when there is none; may be null
 /// @return false when it cannot be read, which has then been told
-bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map);
+bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts* unsized = nullptr);

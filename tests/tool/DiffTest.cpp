@@ -120,7 +120,28 @@ TEST_F(Diff, SizesTextsByTheDatabaseThatItIsGiven)
     const std::string shortForm = "HOLDING,1,NONE,STRING,T,Text\n";
     const std::string longForm = "HOLDING,00001,NONE,STRING,T,Text,4,UNLOCKED,OK\n";
     EXPECT_EQ(diff(shortForm, longForm, {"--json", "plant.json"}).exitCode, 0);
-    EXPECT_EQ(diff(shortForm, longForm).output, "~ HOLDING 00001 T: size 1 -> 4 [breaking]\n");
+    EXPECT_EQ(diff("HOLDING,00001,NONE,STRING,T,Text,3,UNLOCKED,OK\n", shortForm, {"--json", "plant.json"}).output,
+              "~ HOLDING 00001 T: size 3 -> 4 [breaking]\n");
+}
+
+TEST_F(Diff, DoesNotCompareALengthThatNobodyKnowsAndSaysSo)
+{
+    const std::string shortForm = "HOLDING,1,NONE,STRING,T,Text\n";
+    const std::string longForm = "HOLDING,00001,NONE,STRING,T,Text,6,LOCKED,OK\n";
+    const std::string unlocked = "HOLDING,00001,NONE,STRING,T,Text,6,UNLOCKED,OK\n";
+    const ToolRun run = diff(shortForm, unlocked);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.errors,
+              "tolvane-map: there are texts whose lines give no length; with --json their sizes are compared, too\n"
+              "tolvane-map: no object differs\n");
+    EXPECT_EQ(diff(longForm, shortForm).output, "~ HOLDING 00001 T: lock taken off error: the object was locked\n");
+    EXPECT_EQ(diff("", shortForm).output, "+ HOLDING 00001 T: added, STRING, of unknown length\n");
+    EXPECT_EQ(diff("HOLDING,1,NONE,FLOAT,T,Text\n", shortForm).output,
+              "~ HOLDING 00001 T: type FLOAT -> STRING [breaking]\n");
+    EXPECT_EQ(diff(unlocked, shortForm + "HOLDING,00001,NONE,STRING,T,Text,5,UNLOCKED,OK\n").output,
+              "~ HOLDING 00001 T: size 6 -> 5 [breaking]\n")
+        << "the last line counts";
 }
 
 TEST_F(Diff, SaysThatLinesAreLeftOut)
