@@ -12,17 +12,21 @@ struct RuleFacts
 };
 
 constexpr std::array<RuleFacts, ruleCount> facts{{{"dropped-line", Severity::Error},
-                                                  {"blank-line", Severity::Warning},
+
                                                   {"bad-number", Severity::Error},
                                                   {"unknown-type", Severity::Error},
                                                   {"unknown-order", Severity::Error},
                                                   {"unknown-lock", Severity::Error},
                                                   {"cut-off", Severity::Error},
                                                   {"overlap", Severity::Error},
-                                                  {"brace", Severity::Error},
+
+                                                  {"no-tagname", Severity::Error},
                                                   {"unknown-tag", Severity::Error},
                                                   {"bad-type", Severity::Error},
                                                   {"bad-write", Severity::Error},
+                                                  {"blank-line", Severity::Warning},
+                                                  {"ignored-count", Severity::Warning},
+                                                  {"brace", Severity::Warning},
                                                   {"bit-space", Severity::Warning},
                                                   {"other-form", Severity::Warning},
                                                   {"order", Severity::Warning},

@@ -10,17 +10,19 @@
 enum class Rule : std::uint8_t
 {
     DroppedLine,  ///< the editor drops the line
-    BlankLine,    ///< the line is empty and will be gone after saving
-    BadNumber,    ///< an address or count is no whole number and is read as another
+    BadNumber,    ///< an address or the count of a text is no whole number and is read as another
     UnknownType,  ///< the type is no known one and is read as INT16
     UnknownOrder, ///< the byte order holds a word that is none of its four
     UnknownLock,  ///< the lock is neither "LOCKED" nor "UNLOCKED"
     CutOff,       ///< not all registers lie in 0..65535
     Overlap,      ///< it takes registers of an earlier line
-    Brace,        ///< the description is read up to its "{" only
+    NoTagname,    ///< the tagname is empty, with the error marks that come of it
     UnknownTag,   ///< error mark: no tag has the name
     BadType,      ///< error mark: the type does not suit the tag
     BadWrite,     ///< error mark: the tag cannot be written
+    BlankLine,    ///< the line is empty and will be gone after saving
+    IgnoredCount, ///< the count is no number, but the type says how many registers there are
+    Brace,        ///< the description is read up to its "{" only
     BitSpace,     ///< more than a bit in a space of single bits
     OtherForm,    ///< saving writes the line in another form
     Order,        ///< saving writes the line at another place
@@ -28,7 +30,7 @@ enum class Rule : std::uint8_t
 };
 
 /// Number of rules.
-constexpr std::size_t ruleCount = 16;
+constexpr std::size_t ruleCount = 18;
 
 /// How bad a finding is.
 enum class Severity : std::uint8_t

@@ -3,6 +3,7 @@
 #include "map/DefinitionFile.h"
 #include "text/Lines.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
@@ -13,6 +14,32 @@ bool ownsItsHead(std::size_t line, const DefinitionObject& object, const LineOwn
 {
     return RegisterSlots::contains(object.start) &&
            owners.at(object.space, object.start) == static_cast<std::int32_t>(line);
+}
+
+constexpr std::array<std::string_view, 9> fieldNames{"space",       "address",        "byte order", "type",  "tagname",
+                                                     "description", "register count", "lock",       "status"};
+
+/// The first field of a line, which is taken off.
+std::string_view takeField(std::string_view& line)
+{
+    const std::size_t comma = line.find(',');
+    const std::string_view field = line.substr(0, comma);
+    line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
+    return field;
+}
+
+/// What is different about a line of any form, with a colon behind it; empty when it is no field.
+std::string difference(std::string_view line, std::string_view written)
+{
+    std::string names;
+    for (const std::string_view name : fieldNames)
+    {
+        if (line.empty())
+            return "short form: ";
+        if (takeField(line) != takeField(written))
+            names += (names.empty() ? "" : ", ") + std::string(name);
+    }
+    return names.empty() ? names : names + ": ";
 }
 
 Finding encodingFinding(int line, std::string_view message)
@@ -52,7 +79,7 @@ void appendOtherForms(Findings& findings, const PlacedLines& lines, const LineOw
         if (written == lines[i].text)
             continue;
         Finding finding = findingAbout(lines[i], Rule::OtherForm);
-        finding.message = "saving writes " + written;
+        finding.message = difference(lines[i].text, written) + "saving writes " + written;
         findings.push_back(std::move(finding));
     }
 }

@@ -16,6 +16,8 @@ std::string inQuotes(std::string_view text)
     return '"' + std::string(text) + '"';
 }
 
+constexpr std::string_view commaHint = "; is there a comma in the description?";
+
 std::string fieldCountMessage(const DefinitionFileLine& line)
 {
     constexpr std::size_t fullForm = 9;
@@ -23,7 +25,10 @@ std::string fieldCountMessage(const DefinitionFileLine& line)
         return "dropped: more than 9 fields; is there a comma in the tagname or description?";
     std::string message = "dropped: " + std::to_string(line.fieldCount);
     message += line.fieldCount == 1 ? " field" : " fields";
-    return message + " where an object has 9, 7 or 6";
+    message += " where an object has 9, 7 or 6";
+    // A comma too many makes eight of seven.
+    constexpr std::size_t oneTooMany = 8;
+    return line.fieldCount == oneTooMany ? message + "; is there a comma in the tagname or description?" : message;
 }
 
 std::string faultMessage(const DefinitionFileLine& line, LineFault fault)
@@ -64,10 +69,14 @@ void appendNumberFindings(Findings& findings, const DefinitionFileLine& line, co
         append(findings, placed, Rule::BadNumber,
                "the address " + inQuotes(line.fields.address) + " is read as " + std::to_string(placed.object.start));
     constexpr std::size_t formWithCount = 7;
-    if (line.fieldCount >= formWithCount && !isWholeNumber(line.fields.count))
+    if (line.fieldCount < formWithCount || isWholeNumber(line.fields.count))
+        return;
+    const std::string count = "the register count " + inQuotes(line.fields.count);
+    if (placed.object.type == DataType::String)
         append(findings, placed, Rule::BadNumber,
-               "the register count " + inQuotes(line.fields.count) +
-                   " is no number; is there a comma in the description?");
+               count + " is read as " + std::to_string(placed.object.count) + std::string(commaHint));
+    else
+        append(findings, placed, Rule::IgnoredCount, count + " is no number and passed over" + std::string(commaHint));
 }
 
 /// Addresses of registers; one alone or first and last.
@@ -112,7 +121,7 @@ Finding droppedLineFinding(const DefinitionFileLine& line, LineFault fault)
 {
     Finding finding;
     finding.line = line.number;
-    if (line.text.empty())
+    if (withoutLeadingBlanks(line.text).empty())
     {
         finding.rule = Rule::BlankLine;
         finding.message = "blank line, gone after saving";

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <string>
 
 namespace
 {
@@ -98,13 +99,30 @@ int slipsBetween(std::string_view one, std::string_view other, int limit)
     return std::min(rows[one.size() % rows.size()][other.size()], limit + 1);
 }
 
+bool differInDigitsOnly(std::string_view one, std::string_view other)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    const auto same = [](char a, char b) { return lowerCase(a) == lowerCase(b); };
+    if (std::ranges::equal(one, other, same))
+        return false;
+    const auto withoutDigits = [&](std::string_view name)
+    {
+        std::string rest(name);
+        std::erase_if(rest, isDigit);
+        return rest;
+    };
+    return std::ranges::equal(withoutDigits(one), withoutDigits(other), same);
+}
+
 NearestTag::Near NearestTag::compare(std::string_view name, std::uint64_t letters, const Candidate& candidate,
                                      int limit)
 {
     if (farApart(letters, candidate.letters, limit))
         return {limit + 1, candidate.index};
     work += stepsOfComparison;
-    return {slipsBetween(name, candidate.name, limit), candidate.index};
+    const int slips = slipsBetween(name, candidate.name, limit);
+    const bool isOtherDevice = slips <= limit && differInDigitsOnly(name, candidate.name);
+    return {isOtherDevice ? limit + 1 : slips, candidate.index};
 }
 
 void NearestTag::sortTags()

@@ -11,7 +11,8 @@
 ///
 /// The nearest name is the one with the fewest slips: a character too many, too few or another, or two neighbours
 /// exchanged. Capital and small letters count as the same; among equally near names the one that comes first in the
-/// database counts. One slip is allowed for each four characters, one at least and three at most.
+/// database counts. A name that differs in digits only is none: it is that of another device. One slip is allowed for
+/// each four characters, one at least and three at most.
 ///
 /// Suggestions are for slips of the pen. When hardly any name is known, the database is another one and no suggestion
 /// helps: after `workLimit` steps in all, which take 5 to 20 ms, there are none any more.
@@ -60,6 +61,9 @@ private:
     std::vector<std::vector<Candidate>> byLength; ///< made when first asked
     std::int64_t work = 0;
 };
+
+/// True for names that are the same but for their digits, such as those of the third pump and the first.
+bool differInDigitsOnly(std::string_view one, std::string_view other);
 
 /// The fewest slips that make one text of another, as far as they are no more than `limit`.
 /// @return 0..limit, or limit + 1 for any more

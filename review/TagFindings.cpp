@@ -89,6 +89,12 @@ Finding unknownTagFinding(const PlacedLine& line, int marks, Suggestions& sugges
     return finding;
 }
 
+/// What validation says about an object without a name says nothing about any tag.
+Finding noTagnameFinding(const PlacedLine& line, const LineMarks& marks)
+{
+    return markFinding(line, Rule::NoTagname, marks.unknownTag + marks.badType + marks.badWrite, "no tagname");
+}
+
 void appendMarksOf(Findings& findings, const PlacedLine& line, const LineMarks& marks, const TagTable& tags)
 {
     if (marks.tagIndex == -1)
@@ -111,6 +117,11 @@ void appendTagFindings(Findings& findings, const PlacedLines& lines, const LineO
     Suggestions suggestions(tags);
     for (std::size_t i = 0; i < lines.size(); ++i)
     {
+        if (lines[i].object.tagname.empty())
+        {
+            findings.push_back(noTagnameFinding(lines[i], marks[i]));
+            continue;
+        }
         if (marks[i].unknownTag > 0)
             findings.push_back(unknownTagFinding(lines[i], marks[i].unknownTag, suggestions));
         appendMarksOf(findings, lines[i], marks[i], tags);

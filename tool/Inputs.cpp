@@ -3,6 +3,7 @@
 #include "files/ReadFile.h"
 #include "map/DefinitionReader.h"
 #include "source/TagDatabaseLoader.h"
+#include "text/Characters.h"
 #include "text/Decode.h"
 #include "tool/Messages.h"
 
@@ -94,7 +95,7 @@ bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, Un
     readDefinition(text, map, tags,
                    [&](const DefinitionFileLine& line)
                    {
-                       if (!line.text.empty() && std::holds_alternative<LineFault>(line.meaning))
+                       if (!withoutLeadingBlanks(line.text).empty() && std::holds_alternative<LineFault>(line.meaning))
                            ++dropped;
                        if (unsized != nullptr)
                            noteLength(line, *unsized);

@@ -41,6 +41,20 @@ TEST(MapReview, SuggestsNothingForANameThatIsLikeNoOther)
               Said{"1 unknown-tag: no tag has this name"});
 }
 
+TEST(MapReview, FindsALineWithoutATagnameAndSaysNothingAboutItsTag)
+{
+    const Findings findings = reviewMap(
+        fileOf({"HOLDING,00100,NONE,STRING,,,2,UNLOCKED,ERROR", "HOLDING,00200,NONE,INT16,.1,,1,UNLOCKED,ERROR"}),
+        smallDatabase());
+    ASSERT_EQ(findings.size(), 2U);
+    for (const Finding& finding : findings)
+    {
+        EXPECT_EQ(finding.rule, Rule::NoTagname);
+        EXPECT_EQ(finding.message, "no tagname");
+        EXPECT_EQ(severityOf(finding.rule), Severity::Error);
+    }
+}
+
 TEST(MapReview, FindsTypesThatDoNotSuitTheirTag)
 {
     EXPECT_EQ(saidOf({"HOLDING,00100,NONE,STRING,PLC_NAME,,3,UNLOCKED,ERROR",
@@ -69,6 +83,10 @@ TEST(MapReview, SaysWhyALineIsDropped)
                     "4 dropped-line: dropped: the tagname holds a \".\" and does not end in \".1\"",
                     "5 dropped-line: dropped: a STRING of \"0\" registers has none",
                     "6 dropped-line: dropped: 2 fields where an object has 9, 7 or 6"}));
+    EXPECT_EQ(
+        saidOf({"HOLDING,00001,NONE,INT16,TANK_LEVEL,Level, tank 1,1"}),
+        Said{"1 dropped-line: dropped: 8 fields where an object has 9, 7 or 6; is there a comma in the tagname or "
+             "description?"});
 }
 
 TEST(MapReview, NamesTheObjectOfADroppedLine)
@@ -82,7 +100,8 @@ TEST(MapReview, NamesTheObjectOfADroppedLine)
 
 TEST(MapReview, WarnsOfABlankLine)
 {
-    EXPECT_EQ(saidOf({sound, ""}), Said{"2 blank-line: blank line, gone after saving"});
+    EXPECT_EQ(saidOf({sound, "", " \t"}),
+              (Said{"2 blank-line: blank line, gone after saving", "3 blank-line: blank line, gone after saving"}));
 }
 
 TEST(MapReview, FindsNumbersThatAreNone)
@@ -90,13 +109,14 @@ TEST(MapReview, FindsNumbersThatAreNone)
     EXPECT_EQ(saidOf({"HOLDING,1OO,NONE,FLOAT,PUMP_SPEED,,2,UNLOCKED,OK",
                       "HOLDING,00200,NONE,STRING,PLC_NAME,,4x,UNLOCKED,OK"}),
               (Said{"1 bad-number: the address \"1OO\" is read as 1",
-                    "2 bad-number: the register count \"4x\" is no number; is there a comma in the description?"}));
+                    "2 bad-number: the register count \"4x\" is read as 4; is there a comma in the description?"}));
 }
 
-TEST(MapReview, FindsACommaInTheDescriptionOfAShortLine)
+TEST(MapReview, WarnsOfACommaInTheDescriptionOfAShortLine)
 {
     EXPECT_EQ(saidOf({"HOLDING,00100,NONE,FLOAT,PUMP_SPEED,Speed, pump 1"}),
-              Said{"1 bad-number: the register count \" pump 1\" is no number; is there a comma in the description?"});
+              Said{"1 ignored-count: the register count \" pump 1\" is no number and passed over; is there a comma in "
+                   "the description?"});
 }
 
 TEST(MapReview, FindsObjectsThatAreCutOffAtTheEndsOfTheSpace)
@@ -141,7 +161,7 @@ TEST(MapReview, KeepsTheSpacesApartWhenItLooksForOverlaps)
               Said());
 }
 
-TEST(MapReview, FindsABraceInADescription)
+TEST(MapReview, WarnsOfABraceInADescription)
 {
     EXPECT_EQ(saidOf({"HOLDING,00100,NONE,FLOAT,PUMP_SPEED,Speed {rpm},2,UNLOCKED,OK"}),
               Said{"1 brace: the description is read up to its \"{\" only, as \"Speed \""});
@@ -178,10 +198,12 @@ TEST(MapReview, FindsALockThatIsNone)
                     "3 unknown-lock: the lock \"LOCKED!\" is read as LOCKED"}));
 }
 
-TEST(MapReview, TakesWhatReadingChangesInSilenceForAnError)
+TEST(MapReview, TakesWhatReadingChangesInSilenceForAnErrorAndShorterWordsForAWarning)
 {
     for (const Rule rule : {Rule::UnknownType, Rule::UnknownOrder, Rule::UnknownLock})
         EXPECT_EQ(severityOf(rule), Severity::Error) << ruleName(rule);
+    for (const Rule rule : {Rule::BlankLine, Rule::IgnoredCount, Rule::Brace})
+        EXPECT_EQ(severityOf(rule), Severity::Warning) << ruleName(rule);
 }
 
 TEST(MapReview, WarnsOfMoreThanABitInCoilAndStatusAlone)
@@ -195,10 +217,14 @@ TEST(MapReview, WarnsOfMoreThanABitInCoilAndStatusAlone)
 
 TEST(MapReview, WarnsOfLinesThatSavingWritesInAnotherForm)
 {
-    EXPECT_EQ(saidOf({"HOLDING,100,WORDS+BYTES,FLOAT,PUMP_SPEED,Speed"}),
-              Said{"1 other-form: saving writes HOLDING,00100,BYTES+WORDS,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK"});
+    EXPECT_EQ(
+        saidOf({"HOLDING,100,WORDS+BYTES,FLOAT,PUMP_SPEED,Speed"}),
+        Said{"1 other-form: short form: saving writes HOLDING,00100,BYTES+WORDS,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK"});
     EXPECT_EQ(saidOf({"HOLDING,00100,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,ERROR"}),
-              Said{"1 other-form: saving writes " + sound});
+              Said{"1 other-form: status: saving writes " + sound});
+    EXPECT_EQ(saidOf({"HOLDING,100,NONE,FLOAT,PUMP_SPEED,Speed,1,UNLOCKED,OK"}),
+              Said{"1 other-form: address, register count: saving writes " + sound});
+    EXPECT_EQ(saidOf({sound + ','}), Said{"1 other-form: saving writes " + sound});
 }
 
 TEST(MapReview, WarnsOnceOfLinesInAnotherOrder)

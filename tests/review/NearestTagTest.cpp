@@ -56,8 +56,8 @@ TEST(NearestTag, SuggestsTheNameWithTheFewestSlips)
 
 TEST(NearestTag, SuggestsTheFirstOfEquallyNearNames)
 {
-    EXPECT_EQ(suggested("PUMP_3", {"PUMP_12", "PUMP_2", "PUMP_1"}), "PUMP_2");
-    EXPECT_EQ(suggested("PUMP_3", {"PUMP_33", "PUMP_2"}), "PUMP_33");
+    EXPECT_EQ(suggested("PUMP_C", {"PUMP_AB", "PUMP_B", "PUMP_A"}), "PUMP_B");
+    EXPECT_EQ(suggested("PUMP_C", {"PUMP_CC", "PUMP_B"}), "PUMP_CC");
 }
 
 TEST(NearestTag, SuggestsANameInOtherCapitalsBeforeAnyOther)
@@ -97,4 +97,23 @@ TEST(NearestTag, LeavesOffOnceItHasComparedSoManyNames)
         nearest.find("TAG_1000000_");
     EXPECT_TRUE(nearest.isSpent());
     EXPECT_EQ(nearest.find("TAG_1000000_"), std::nullopt);
+}
+
+TEST(NearestTag, IsNoNameThatDiffersInDigitsOnly)
+{
+    EXPECT_TRUE(differInDigitsOnly("INT_P03_START_CMD", "INT_P01_START_CMD"));
+    EXPECT_TRUE(differInDigitsOnly("PUMP_9", "pump_10"));
+    EXPECT_FALSE(differInDigitsOnly("PUMP_9", "pump_9"));
+    EXPECT_FALSE(differInDigitsOnly("PUMP_O", "PUMP_0"));
+    EXPECT_FALSE(differInDigitsOnly("P03_STRAT", "P03_START"));
+    TagTable tags;
+    for (const char* name : {"INT_P01_START_CMD", "INT_P01_STOP_CMD"})
+    {
+        TagRecord tag;
+        tag.name = InternedText(name);
+        tags.append(tag);
+    }
+    NearestTag nearest(tags);
+    EXPECT_EQ(nearest.find("INT_P03_START_CMD"), std::nullopt);
+    EXPECT_EQ(nearest.find("INT_P01_STRAT_CMD"), 0);
 }
