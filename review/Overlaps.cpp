@@ -1,5 +1,6 @@
 #include "review/Overlaps.h"
 
+#include "review/OrderText.h"
 #include "text/Integers.h"
 
 #include <algorithm>
@@ -71,16 +72,33 @@ std::vector<Taken> byLine(std::vector<Taken> taken)
     return taken;
 }
 
+/// What a later object has of the byte order of an earlier one, which its own line does not name: a swap stays set.
+std::string takenOrder(const DefinitionObject& later, const DefinitionObject& earlier)
+{
+    DefinitionObject taken;
+    taken.SwapBytes = earlier.SwapBytes && !later.SwapBytes;
+    taken.SwapWords = earlier.SwapWords && !later.SwapWords;
+    taken.SwapLongs = earlier.SwapLongs && !later.SwapLongs;
+    const bool any = taken.SwapBytes || taken.SwapWords || taken.SwapLongs;
+    return any ? ", and its byte order " + orderText(taken) : "";
+}
+
 Finding overlapFinding(const PlacedLine& line, const PlacedLine& earlier, const Taken& taken)
 {
     Finding finding = findingAbout(line, Rule::Overlap);
     finding.otherLine = earlier.number;
+    if (line.text == earlier.text)
+    {
+        finding.message = "same as line " + std::to_string(earlier.number);
+        return finding;
+    }
     finding.message = "takes register " + addressText(static_cast<std::uint32_t>(taken.first));
     if (taken.end - taken.first > 1)
         finding.message += " to " + addressText(static_cast<std::uint32_t>(taken.end - 1));
     finding.message += " from ";
     finding.message += earlier.object.locked ? "the locked " : "";
-    finding.message += std::string(earlier.object.tagname) + " of line " + std::to_string(earlier.number);
+    finding.message += std::string(earlier.object.tagname) + " of line " + std::to_string(earlier.number) +
+                       takenOrder(line.object, earlier.object);
     return finding;
 }
 

@@ -1,5 +1,7 @@
 #include "review/WordFindings.h"
 
+#include "review/OrderText.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -19,21 +21,6 @@ void append(Findings& findings, const PlacedLine& placed, Rule rule, std::string
     Finding finding = findingAbout(placed, rule);
     finding.message = std::move(message);
     findings.push_back(std::move(finding));
-}
-
-/// The byte order that the reader took from a line, as files write it.
-std::string orderOf(const DefinitionObject& object)
-{
-    std::string order;
-    const auto add = [&](bool set, std::string_view word)
-    {
-        if (set)
-            order += (order.empty() ? "" : "+") + std::string(word);
-    };
-    add(object.SwapBytes, "BYTES");
-    add(object.SwapWords, "WORDS");
-    add(object.SwapLongs, "LONGS");
-    return order.empty() ? "NONE" : order;
 }
 
 /// The first word of a byte order that is none of the four; empty when there is none. Words are joined by "+" or
@@ -60,7 +47,7 @@ void appendOrderFinding(Findings& findings, const DefinitionFileLine& line, cons
     if (!word.empty())
         append(findings, placed, Rule::UnknownOrder,
                inQuotes(word) + " is none of NONE, BYTES, WORDS, LONGS: the byte order " + inQuotes(line.fields.order) +
-                   " is read as " + orderOf(placed.object));
+                   " is read as " + orderText(placed.object));
 }
 
 } // namespace

@@ -140,6 +140,18 @@ TEST(MapReview, FindsOverlapsAndNamesBothLines)
     EXPECT_EQ(findings[0].message, "takes register 00102 from the locked PUMP_SPEED of line 1");
 }
 
+TEST(MapReview, SaysThatAnObjectTakesAByteOrderOver)
+{
+    EXPECT_EQ(saidOf({"HOLDING,00100,BYTES+WORDS,FLOAT,PUMP_SPEED,,2,UNLOCKED,OK",
+                      "HOLDING,00101,BYTES,INT16,TANK_LEVEL,,1,UNLOCKED,OK"}),
+              Said{"2 overlap: takes register 00101 from PUMP_SPEED of line 1, and its byte order WORDS"});
+}
+
+TEST(MapReview, CallsTheSameLineTheSame)
+{
+    EXPECT_EQ(saidOf({sound, sound}), Said{"2 overlap: same as line 1"});
+}
+
 TEST(MapReview, TellsAnOverlapOnceForEachEarlierLine)
 {
     // The second line leaves two ends of the first, and the third takes both of them and the second.
