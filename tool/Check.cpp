@@ -13,7 +13,7 @@ namespace
 FindingReport reportOf(Findings findings, const CheckOptions& options)
 {
     FindingReport report;
-    report.file = shownPath(options.mapPath);
+    report.file = options.name.empty() ? shownPath(options.mapPath) : options.name;
     report.warningsAreErrors = options.warnings == Warnings::Error;
     report.findings = std::move(findings);
     if (options.warnings == Warnings::Off)

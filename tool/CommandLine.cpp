@@ -5,7 +5,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -42,12 +44,31 @@ void addChoice(CLI::App& word, const std::string& name, Value& value, const std:
     word.add_option_function<std::string>(name, take, description)->type_name(shown);
 }
 
+/// Shows in each word's usage what has to be given.
+class UsageFormatter : public CLI::Formatter
+{
+public:
+    std::string make_usage(const CLI::App* app, std::string name) const override
+    {
+        static const std::map<std::string, std::string> needed{
+            {"check", "check --json FILE --modbus FILE [OPTIONS]"},
+            {"diff", "diff [OPTIONS] OLD NEW"},
+            {"export", "export --modbus FILE --output FILE [OPTIONS]"}};
+        const auto usage = needed.find(app->get_name());
+        if (usage == needed.end())
+            return CLI::Formatter::make_usage(app, std::move(name));
+        return "Usage: tolvane-map " + usage->second + '\n';
+    }
+};
+
 /// The program's words and the options of each.
 class CommandLine
 {
 public:
     CommandLine()
     {
+        for (CLI::App* const word : {checkWord, diffWord, exportWord})
+            word->formatter(std::make_shared<UsageFormatter>());
         app.set_version_flag("--version", "tolvane-map " TOLVANE_VERSION, "Print the version and exit");
         app.set_help_flag("-h,--help", "Print this help and exit");
         app.require_subcommand(1);
@@ -74,14 +95,31 @@ public:
     }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? ExitCode::Success : ExitCode::Failed;
+        if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
+        {
+            app.exit(error); // help or the version
+            return ExitCode::Success;
+        }
+        tell(explanation(error) + "; --help tells more");
+        return ExitCode::Failed;
     }
 
 private:
+    /// What is wrong with the command line. The library says only that a word is missing where it does not know one.
+    std::string explanation(const CLI::ParseError& error) const
+    {
+        const std::vector<std::string> left = app.remaining();
+        if (!app.get_subcommands().empty())
+            return error.what();
+        return left.empty() ? "one of check, diff, export has to be given"
+                            : '"' + left.front() + "\" is none of check, diff, export";
+    }
+
     void describeCheck()
     {
         addDatabase(*checkWord, checkOptions.databasePath)->required();
         addMap(*checkWord, checkOptions.mapPath);
+        checkWord->add_option("--name", checkOptions.name, "What findings call the map (its path)")->type_name("NAME");
         addChoice<ReportFormat>(
             *checkWord, "--format", checkOptions.format, "How findings are written (text)",
             {{"text", ReportFormat::Text}, {"json", ReportFormat::Json}, {"github", ReportFormat::GitHub}},

@@ -24,6 +24,7 @@ struct CheckOptions
 {
     std::string databasePath;
     std::string mapPath;
+    std::string name; ///< what findings call the map; empty for its path
     ReportFormat format = ReportFormat::Text;
     Warnings warnings = Warnings::On;
     bool quiet = false; ///< nothing is written, the exit code says it all

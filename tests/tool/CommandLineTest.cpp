@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -23,6 +25,20 @@ TEST(CommandLine, HasHelpForTheProgramAndEachWord)
         EXPECT_TRUE(holds(run.output, "Exit code: 0"));
         EXPECT_EQ(run.errors, "");
     }
+}
+
+TEST(CommandLine, ShowsInTheUsageWhatHasToBeGiven)
+{
+    EXPECT_TRUE(holds(runTool({"check", "--help"}).output, "Usage: tolvane-map check --json FILE --modbus FILE"));
+    EXPECT_TRUE(holds(runTool({"diff", "--help"}).output, "Usage: tolvane-map diff [OPTIONS] OLD NEW\n"));
+    EXPECT_TRUE(holds(runTool({"export", "--help"}).output, "Usage: tolvane-map export --modbus FILE --output FILE"));
+}
+
+TEST(CommandLine, NamesAnUnknownWord)
+{
+    EXPECT_EQ(runTool({"chek", "--json", "a"}).errors,
+              "tolvane-map: \"chek\" is none of check, diff, export; --help tells more\n");
+    EXPECT_EQ(runTool({}).errors, "tolvane-map: one of check, diff, export has to be given; --help tells more\n");
 }
 
 TEST(CommandLine, TellsTheVersion)
@@ -51,13 +67,15 @@ TEST(CommandLine, EndsWithTwoAndSaysOnStandardErrorWhatIsWrong)
         const ToolRun run = runTool(arguments);
         EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(arguments);
         EXPECT_EQ(run.output, "") << testing::PrintToString(arguments);
-        EXPECT_NE(run.errors, "") << testing::PrintToString(arguments);
+        EXPECT_TRUE(run.errors.starts_with("tolvane-map: ")) << testing::PrintToString(arguments) << run.errors;
+        EXPECT_EQ(std::ranges::count(run.errors, '\n'), 1) << testing::PrintToString(arguments) << run.errors;
     }
 }
 
 TEST(CommandLine, NamesTheChoicesWhenNoneOfThemIsGiven)
 {
     EXPECT_TRUE(holds(runTool({"check", "-d", "a", "-m", "b", "--format", "xml"}).errors,
-                      "--format: \"xml\" is none of text|json|github\n"));
-    EXPECT_TRUE(holds(runTool({"check", "-d", "a", "-m", "b", "--warnings", "2"}).errors, "is none of off|on|error\n"));
+                      "--format: \"xml\" is none of text|json|github; --help tells more\n"));
+    EXPECT_TRUE(holds(runTool({"check", "-d", "a", "-m", "b", "--warnings", "2"}).errors,
+                      "is none of off|on|error; --help tells more\n"));
 }

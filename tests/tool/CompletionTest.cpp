@@ -34,7 +34,7 @@ TEST(Completion, OffersTheWords)
 TEST(Completion, OffersTheOptionsOfAWord)
 {
     EXPECT_EQ(offers("tolvane-map check --"),
-              (Offers{"--format", "--help", "--json", "--modbus", "--quiet", "--warnings"}));
+              (Offers{"--format", "--help", "--json", "--modbus", "--name", "--quiet", "--warnings"}));
     EXPECT_EQ(offers("tolvane-map diff --"), (Offers{"--format", "--git", "--help", "--json", "--quiet"}));
     EXPECT_EQ(offers("tolvane-map export --"), (Offers{"--format", "--help", "--json", "--modbus", "--output"}));
 }

@@ -23,7 +23,7 @@ _tolvane_map() {
     "export --format") offers="csv text" ;;
     *)
         case "$word $current" in
-        "check -"*) offers="--json --modbus --format --warnings --quiet --help" ;;
+        "check -"*) offers="--json --modbus --name --format --warnings --quiet --help" ;;
         "diff -"*) offers="--json --format --git --quiet --help" ;;
         "export -"*) offers="--json --modbus --output --format --help" ;;
         *)
