@@ -79,6 +79,8 @@ TEST_F(Export, EndsWithTwoWhenAFileCannotBeReadOrWritten)
     EXPECT_EQ(runTool({"export", "-m", "none.csv", "-o", "map.txt"}, here()).exitCode, 2);
     const ToolRun run = runTool({"export", "-m", samplePath, "-o", "none/map.txt"}, here());
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.errors, "tolvane-map: none/map.txt: cannot be written\n");
+    EXPECT_EQ(run.errors, "tolvane-map: none/map.txt: cannot be written: No such file or directory\n");
+    EXPECT_EQ(runTool({"export", "-m", samplePath, "-o", "."}, here()).errors,
+              "tolvane-map: .: cannot be written: it is a folder\n");
     EXPECT_EQ(runShell("ls -A", here()).output, "");
 }
