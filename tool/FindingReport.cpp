@@ -131,9 +131,9 @@ std::string findingsForGitHub(const FindingReport& report)
     for (const Finding& finding : report.findings)
     {
         text += "::" + std::string(severityWord(report.severity(finding)));
-        text += " file=" + escapedForGitHub(report.file, true) + ",line=" + std::to_string(finding.line);
+        text += " file=" + escapedForGitHub(printable(report.file), true) + ",line=" + std::to_string(finding.line);
         text += ",title=" + std::string(ruleName(finding.rule)) + "::";
-        text += escapedForGitHub(objectName(finding) + finding.message, false);
+        text += escapedForGitHub(printable(objectName(finding) + finding.message), false);
         text += nativeLineEnd;
     }
     return text;

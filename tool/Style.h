@@ -30,6 +30,6 @@ private:
     bool coloured;
 };
 
-/// The text with a "?" for each control character: names come from files, and a line has to stay one line and must not
-/// command the terminal.
+/// The text with a "?" for each control character, each character that turns the direction of the text, and each byte
+/// that is no UTF-8: names come from files, and a line has to stay one line and must not command the terminal.
 std::string printable(std::string_view text);

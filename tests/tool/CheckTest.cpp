@@ -129,6 +129,16 @@ TEST_F(Check, KeepsOneFindingALineWhateverNamesHold)
               "map.csv:1: HOLDING 00100 A?[31m?: error: no tag has this name [unknown-tag]\n");
 }
 
+TEST_F(Check, CommandsNoTerminalWhateverNamesHold)
+{
+    const std::string commands = "\x1b\x7f\xC2\x9B\xE2\x80\xAE\xE2\x81\xA6";
+    const std::string map = "HOLDING,00100,NONE,FLOAT,\xC3\x84" + commands + "Z,Speed,2,UNLOCKED,ERROR\n";
+    EXPECT_EQ(check(map).output,
+              "map.csv:1: HOLDING 00100 \xC3\x84?????Z: error: no tag has this name [unknown-tag]\n");
+    EXPECT_EQ(check(map, {"--format", "github"}).output,
+              "::error file=map.csv,line=1,title=unknown-tag::HOLDING 00100 \xC3\x84?????Z: no tag has this name\n");
+}
+
 TEST_F(Check, ReadsTheMapFromStandardInput)
 {
     folder.write("plant.json", database);
@@ -137,6 +147,16 @@ TEST_F(Check, ReadsTheMapFromStandardInput)
     const ToolRun run = runTool({"check", "--json", "plant.json", "--modbus", "-"}, surroundings);
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.output.starts_with("<stdin>:1: HOLDING 00100 PUMP_SPEDE:")) << run.output;
+}
+
+TEST_F(Check, CallsTheMapByTheNameThatItIsGiven)
+{
+    folder.write("plant.json", database);
+    Surroundings surroundings = here();
+    surroundings.input = wrongMap;
+    const ToolRun run = runTool({"check", "-d", "plant.json", "-m", "-", "--name", "plant.csv"}, surroundings);
+    EXPECT_TRUE(run.output.starts_with("plant.csv:1: HOLDING")) << run.output;
+    EXPECT_TRUE(run.errors.starts_with("tolvane-map: plant.csv: 1 error,")) << run.errors;
 }
 
 TEST_F(Check, ReadsAMapFromAPipe)
