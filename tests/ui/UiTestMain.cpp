@@ -58,11 +58,10 @@ public:
 
 } // namespace
 
-wxIMPLEMENT_APP_NO_MAIN(UiTestApp);
-
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
     wxSetAssertHandler(failOnAssertion);
+    wxApp::SetInstance(new UiTestApp);
     return wxEntry(argc, argv);
 }
