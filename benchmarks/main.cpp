@@ -1,11 +1,9 @@
 // The benchmark program: work at full size, its limits and yardsticks, printed as a table.
 
 #include "benchmarks/Benchmarks.h"
-#include "ui/Desktop.h"
+#include "tests/ui/EditorApplication.h"
 
-#include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/image.h>
 #include <wx/utils.h>
 
 #include <cstdlib>
@@ -14,18 +12,6 @@
 
 namespace
 {
-
-/// An application whose main loop is never run: the benchmarks handle its events when they want them handled.
-class BenchmarkApp : public wxApp
-{
-public:
-    bool OnInit() override
-    {
-        wxInitAllImageHandlers();
-        desktop::preferDark();
-        return true;
-    }
-};
 
 void runBenchmarks()
 {
@@ -49,7 +35,8 @@ try
 
     // The program looks for the suite's key file; the build tree has one.
     wxSetEnv("XDG_CONFIG_DIRS", TOLVANE_BENCH_CONFIG);
-    wxApp::SetInstance(new BenchmarkApp);
+    // Its main loop is never run: the benchmarks handle its events when they want them handled.
+    wxApp::SetInstance(new EditorApplication);
     if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit())
         return EXIT_FAILURE;
     {

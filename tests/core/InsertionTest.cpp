@@ -31,24 +31,24 @@ std::string inserted(std::string_view picture, std::string_view elements, int ta
 
 TEST(Insertion, FreeSlotsAreTakenAsTheyAre)
 {
-    EXPECT_EQ(inserted("A...B", "XXY", 11), "AXXYB");
+    EXPECT_EQ(inserted("A...B", "NNY", 11), "ANNYB");
 }
 
 TEST(Insertion, UsedSlotsSlideDownInTheirOrder)
 {
-    EXPECT_EQ(inserted("AABC...", "XXX", 10), "XXXAABC");
+    EXPECT_EQ(inserted("AABC...", "NNN", 10), "NNNAABC");
 }
 
 TEST(Insertion, GapsBehindTheTargetAreUsedUpOneByOne)
 {
-    EXPECT_EQ(inserted("A.B.C.D", "XX", 10), "XXABC.D");
-    EXPECT_EQ(inserted("A.B.C.D", "X", 10), "XAB.C.D");
-    EXPECT_EQ(inserted("A..B.", "XXX", 10), "XXXAB");
+    EXPECT_EQ(inserted("A.B.C.D", "NN", 10), "NNABC.D");
+    EXPECT_EQ(inserted("A.B.C.D", "N", 10), "NAB.C.D");
+    EXPECT_EQ(inserted("A..B.", "NNN", 10), "NNNAB");
 }
 
 TEST(Insertion, FreeSlotsBeforeTheFirstUsedOneAreFilledWithoutPushing)
 {
-    EXPECT_EQ(inserted("..AB..C", "XXXX", 10), "XXXXABC");
+    EXPECT_EQ(inserted("..AB..C", "NNNN", 10), "NNNNABC");
 }
 
 TEST(Insertion, ElementsKeepTheirPlaceInTheirObjectWhereverTheyComeFrom)
@@ -74,44 +74,44 @@ TEST(Insertion, ContinuationInsertedAtTheStartOfTheSpaceWrapsAround)
 
 TEST(Insertion, FreeElementsReplaceWhatTheyPushAway)
 {
-    EXPECT_EQ(inserted("AB...", "X.Y", 10), "X.YAB");
+    EXPECT_EQ(inserted("AB...", "N.Y", 10), "N.YAB");
 }
 
 TEST(Insertion, LockedElementsStayLocked)
 {
-    EXPECT_EQ(inserted("A...", "x#", 10), "x#A.");
+    EXPECT_EQ(inserted("A...", "n#", 10), "n#A.");
 }
 
 TEST(Insertion, LockedFreeSlotIsWrittenOverWhileNothingIsPushed)
 {
-    EXPECT_EQ(inserted("#.#A", "XYZ", 10), "XYZA");
+    EXPECT_EQ(inserted("#.#A", "NYZ", 10), "NYZA");
 }
 
 TEST(Insertion, LockBeforeTheNextFreeSlotStopsAndKeepsWhatIsWritten)
 {
-    EXPECT_EQ(inserted("A.Bc..", "XYZ", 10), "XABc..");
-    EXPECT_EQ(inserted("A#....", "XXX", 10), "A#....");
-    EXPECT_EQ(inserted("a.....", "X", 10), "a.....");
-    EXPECT_EQ(inserted("A.B#..", "XY", 10), "XAB#..");
-    EXPECT_EQ(inserted("..Bc..", "XYZ", 10), "XYBc..");
+    EXPECT_EQ(inserted("A.Bc..", "NYZ", 10), "NABc..");
+    EXPECT_EQ(inserted("A#....", "NNN", 10), "A#....");
+    EXPECT_EQ(inserted("a.....", "N", 10), "a.....");
+    EXPECT_EQ(inserted("A.B#..", "NY", 10), "NAB#..");
+    EXPECT_EQ(inserted("..Bc..", "NYZ", 10), "NYBc..");
 }
 
 TEST(Insertion, LockBehindALaterGapStopsOnlyTheLaterPushes)
 {
-    EXPECT_EQ(inserted("AB.C.#.", "WXYZ", 10), "WXABC#.");
+    EXPECT_EQ(inserted("AB.C.#.", "WNYZ", 10), "WNABC#.");
 }
 
 TEST(Insertion, EndOfTheSpaceStopsAndKeepsWhatIsWritten)
 {
-    EXPECT_EQ(inserted("A.B.C", "XYZ", 65'531, 65'531), "XYABC");
-    EXPECT_EQ(inserted("A", "X", 65'535, 65'535), "A");
-    EXPECT_EQ(inserted(".", "XYZ", 65'535, 65'535), "X");
+    EXPECT_EQ(inserted("A.B.C", "NYZ", 65'531, 65'531), "NYABC");
+    EXPECT_EQ(inserted("A", "N", 65'535, 65'535), "A");
+    EXPECT_EQ(inserted(".", "NYZ", 65'535, 65'535), "N");
 }
 
 TEST(Insertion, TargetOutsideTheSpaceWritesNothing)
 {
     const auto slots = drawnSpace(0, "A");
-    const std::vector<RegisterEntry> elements = registersOf("XX");
+    const std::vector<RegisterEntry> elements = registersOf("NN");
     for (const int target : {-1, -2, 65'536, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
         insertRegisters(*slots, elements, target);
     EXPECT_EQ(*slots, *drawnSpace(0, "A"));
@@ -125,17 +125,17 @@ TEST(Insertion, NoElementsChangeNothing)
 TEST(Insertion, MoreElementsThanTheSpaceIsLongEndWithIt)
 {
     const auto slots = drawnSpace(0, "");
-    const std::vector<RegisterEntry> elements(100'000, registersOf("X").front());
+    const std::vector<RegisterEntry> elements(100'000, registersOf("N").front());
     insertRegisters(*slots, elements, 65'530);
-    EXPECT_EQ(pictureOf(*slots, 65'529, 7), ".XXXXXX");
+    EXPECT_EQ(pictureOf(*slots, 65'529, 7), ".NNNNNN");
 }
 
 TEST(Insertion, VacatedSlotsCountAsFree)
 {
     const auto slots = drawnSpace(10, "ABC.");
     (*slots)[11].used = false;
-    insertRegisters(*slots, registersOf("X"), 10);
-    EXPECT_TRUE(looksLike(*slots, 10, "XAC."));
+    insertRegisters(*slots, registersOf("N"), 10);
+    EXPECT_TRUE(looksLike(*slots, 10, "NAC."));
 }
 
 TEST(Insertion, LongBlockGoesInFrontOfALongRun)
@@ -149,8 +149,8 @@ TEST(Insertion, EqualsInsertingOneSlotAfterAnother)
 {
     const auto slots = drawnSpace(0, "");
     LiteralModel model;
-    const std::vector<std::vector<RegisterEntry>> clipboards{registersOf("X"), registersOf("XX"), registersOf("X.YY"),
-                                                             registersOf("XXXXZZ"), registersOf("XYz#W.V")};
+    const std::vector<std::vector<RegisterEntry>> clipboards{registersOf("N"), registersOf("NN"), registersOf("N.YY"),
+                                                             registersOf("NNNNZZ"), registersOf("NYz#W.V")};
     for (std::uint32_t seed = 1; seed <= 20'000; ++seed)
     {
         Chance chance(seed);

@@ -3,11 +3,9 @@
 //   soak --steps COUNT [SEED]
 
 #include "tests/soak/Soak.h"
-#include "ui/Desktop.h"
+#include "tests/ui/EditorApplication.h"
 
-#include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/image.h>
 
 #include <charconv>
 #include <cstdlib>
@@ -18,20 +16,6 @@
 
 namespace
 {
-
-/// An application whose main loop is never run: events are handled between the steps.
-class SoakApp : public wxApp
-{
-public:
-    bool OnInit() override
-    {
-        SetExitOnFrameDelete(false);
-        wxInitAllImageHandlers();
-        desktop::preferDark();
-        desktop::drawControlsPlainly();
-        return true;
-    }
-};
 
 std::optional<std::uint32_t> wholeNumber(std::string_view text)
 {
@@ -64,7 +48,8 @@ std::optional<SoakPlan> planOf(std::vector<std::string_view> arguments)
 
 bool runInApplication(int& argc, char** argv, const SoakPlan& plan)
 {
-    wxApp::SetInstance(new SoakApp);
+    // Its main loop is never run: events are handled between the steps.
+    wxApp::SetInstance(new EditorApplication);
     if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit())
         return false;
     bool sound = false;

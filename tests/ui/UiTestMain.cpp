@@ -1,13 +1,11 @@
 // Runs the tests inside the toolkit's application object, with an event loop under them.
 
+#include "tests/ui/EditorApplication.h"
 #include "tests/ui/UiTest.h"
-#include "ui/Desktop.h"
 #include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
-#include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/image.h>
 
 #include <cstdlib>
 
@@ -32,18 +30,9 @@ class EmptyDisplay : public testing::EmptyTestEventListener
     }
 };
 
-class UiTestApp : public wxApp
+class UiTestApp : public EditorApplication
 {
 public:
-    bool OnInit() override
-    {
-        SetExitOnFrameDelete(false);
-        wxInitAllImageHandlers();
-        desktop::preferDark();
-        desktop::drawControlsPlainly();
-        return true;
-    }
-
     int OnRun() override
     {
         wxGUIEventLoop loop;

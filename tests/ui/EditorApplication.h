@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ui/Desktop.h"
+
+#include <wx/app.h>
+#include <wx/image.h>
+
+/// The application object of programs that open the editor's windows without being the editor: set up as the editor
+/// is, and it goes on when the last window is closed.
+class EditorApplication : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        SetExitOnFrameDelete(false);
+        wxInitAllImageHandlers();
+        desktop::preferDark();
+        desktop::drawControlsPlainly();
+        return true;
+    }
+};
