@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -20,6 +21,8 @@ constexpr const char* diffFooter =
 constexpr const char* exportFooter = "\nExit code: 0 written, 2 a file cannot be read or written.";
 constexpr const char* mainFooter = "\nA path of - is standard input or output. tolvane-map WORD --help tells more.";
 
+constexpr const char* helpDescription = "Print this help and exit";
+
 CLI::Option* addDatabase(CLI::App& word, std::string& path)
 {
     return word.add_option("-d,--json", path, "Tag database (JSON)")->type_name("FILE");
@@ -31,8 +34,8 @@ CLI::Option* addMap(CLI::App& word, std::string& path)
 }
 
 template <typename Value>
-void addChoice(CLI::App& word, const std::string& name, Value& value, const std::string& description,
-               const std::map<std::string, Value>& choices, const std::string& shown)
+CLI::Option* addChoice(CLI::App& word, const std::string& name, Value& value, const std::string& description,
+                       const std::map<std::string, Value>& choices, const std::string& shown)
 {
     const auto take = [&value, name, choices, shown](const std::string& text)
     {
@@ -41,7 +44,7 @@ void addChoice(CLI::App& word, const std::string& name, Value& value, const std:
             throw CLI::ValidationError(name, '"' + text + "\" is none of " + shown);
         value = choice->second;
     };
-    word.add_option_function<std::string>(name, take, description)->type_name(shown);
+    return word.add_option_function<std::string>(name, take, description)->type_name(shown);
 }
 
 /// Shows in each word's usage what has to be given.
@@ -68,9 +71,12 @@ public:
     CommandLine()
     {
         for (CLI::App* const word : {checkWord, diffWord, exportWord})
+        {
             word->formatter(std::make_shared<UsageFormatter>());
+            word->set_help_flag("-h,--help", helpDescription);
+        }
         app.set_version_flag("--version", "tolvane-map " TOLVANE_VERSION, "Print the version and exit");
-        app.set_help_flag("-h,--help", "Print this help and exit");
+        app.set_help_flag("-h,--help", helpDescription);
         app.require_subcommand(1);
         app.footer(mainFooter);
         describeCheck();
@@ -97,8 +103,9 @@ public:
     {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
         {
-            app.exit(error); // help or the version
-            return ExitCode::Success;
+            std::ostringstream helpOrVersion;
+            app.exit(error, helpOrVersion);
+            return put(helpOrVersion.str(), ExitCode::Success);
         }
         tell(explanation(error) + "; --help tells more");
         return ExitCode::Failed;
@@ -137,9 +144,10 @@ private:
             ->required();
         addDatabase(*diffWord, diffOptions.databasePath)
             ->description("Tag database (JSON): sizes texts whose lines give no length");
-        addChoice<ReportFormat>(*diffWord, "--format", diffOptions.format, "How differences are written (text)",
-                                {{"text", ReportFormat::Text}, {"json", ReportFormat::Json}}, "text|json");
         CLI::Option* const git = diffWord->add_flag("--git", diffOptions.git, "Run as git's diff driver");
+        addChoice<ReportFormat>(*diffWord, "--format", diffOptions.format, "How differences are written (text)",
+                                {{"text", ReportFormat::Text}, {"json", ReportFormat::Json}}, "text|json")
+            ->excludes(git);
         diffWord->add_flag("-q,--quiet", diffOptions.quiet, "Write nothing; the exit code says it")->excludes(git);
         diffWord->callback(
             [this]

@@ -2,8 +2,10 @@
 
 #include "tool/Style.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <string>
+#include <system_error>
 
 void tell(std::string_view message)
 {
@@ -17,6 +19,6 @@ ExitCode put(std::string_view results, ExitCode done)
     const bool written = std::fwrite(results.data(), 1, results.size(), stdout) == results.size();
     if (written && std::fflush(stdout) == 0)
         return done;
-    tell("cannot write to standard output");
+    tell("cannot write to standard output: " + std::generic_category().message(errno));
     return ExitCode::Failed;
 }

@@ -201,7 +201,8 @@ TEST_F(Check, EndsWithTwoWhenItsResultsCannotBeWritten)
     full.outputFile = "/dev/full";
     const ToolRun run = runTool({"check", "-d", "plant.json", "-m", "map.csv"}, full);
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.starts_with("tolvane-map: cannot write to standard output\n")) << run.errors;
+    EXPECT_TRUE(run.errors.starts_with("tolvane-map: cannot write to standard output: No space left on device\n"))
+        << run.errors;
 }
 
 TEST_F(Check, ColoursFindingsOnATerminalAlone)

@@ -49,6 +49,17 @@ TEST(CommandLine, TellsTheVersion)
     EXPECT_EQ(run.errors, "");
 }
 
+TEST(CommandLine, EndsWithTwoWhenHelpOrVersionCannotBeWritten)
+{
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--version"}, {"--help"}, {"check", "--help"}})
+    {
+        const ToolRun run = runTool(arguments, {.outputFile = "/dev/full"});
+        EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(arguments);
+        EXPECT_EQ(run.errors, "tolvane-map: cannot write to standard output: No space left on device\n");
+    }
+}
+
 TEST(CommandLine, EndsWithTwoAndSaysOnStandardErrorWhatIsWrong)
 {
     const std::vector<std::vector<std::string>> wrong{{},
@@ -61,6 +72,8 @@ TEST(CommandLine, EndsWithTwoAndSaysOnStandardErrorWhatIsWrong)
                                                       {"diff", "a"},
                                                       {"diff", "a", "b", "c"},
                                                       {"diff", "a", "b", "--format", "github"},
+                                                      {"diff", "--git", "a", "--format", "json"},
+                                                      {"diff", "--git", "a", "--quiet"},
                                                       {"export", "-m", "a"}};
     for (const auto& arguments : wrong)
     {

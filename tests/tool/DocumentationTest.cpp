@@ -1,9 +1,12 @@
 #include "files/ReadFile.h"
 #include "review/Finding.h"
+#include "tests/tool/HelpOptions.h"
 #include "tests/tool/ToolRun.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <sstream>
 #include <string>
 
 namespace
@@ -47,18 +50,52 @@ TEST(Documentation, HasSoundMapsInTheGuide)
         EXPECT_EQ(runTool({"check", "--json", "plant.json", "--modbus", map}, {.folder = examples}).output, "") << map;
 }
 
-TEST(Documentation, NamesEveryOptionInTheManPage)
+TEST(Documentation, DescribesInTheManPageExactlyTheOptionsOfTheHelp)
 {
     const std::string page = manPage();
-    for (const char* word : {"check", "diff", "export"})
+    Options described;
+    std::istringstream options(
+        page.substr(page.find(".SH OPTIONS"), page.find(".SH RULES") - page.find(".SH OPTIONS")));
+    for (std::string line; std::getline(options, line);)
     {
-        const std::string help = runTool({word, "--help"}).output;
-        for (std::size_t at = help.find("--"); at != std::string::npos; at = help.find("--", at + 2))
+        if (line == ".TP" && std::getline(options, line))
+            described.merge(optionsIn(line));
+    }
+    Options offered;
+    for (const char* word : {"", "check", "diff", "export"})
+        offered.merge(optionsOfHelp(word));
+    EXPECT_EQ(described, offered);
+}
+
+TEST(Documentation, ShowsInTheSynopsisExactlyTheOptionsOfEachWord)
+{
+    const std::string page = manPage();
+    for (const std::string word : {"check", "diff", "export"})
+    {
+        Options shown{"--help"}; // understood
+        const std::string begin = ".SY tolvane-map~" + word + '\n';
+        for (std::size_t at = page.find(begin); at != std::string::npos; at = page.find(begin, at + 1))
+            shown.merge(optionsIn(page.substr(at, page.find(".YS", at) - at)));
+        EXPECT_EQ(shown, longOnes(optionsOfHelp(word))) << word;
+    }
+}
+
+TEST(Documentation, NamesEveryOptionInTheGuideAndNoOtherInItsCommands)
+{
+    const std::string guide = contents(TOLVANE_SOURCES "/docs/guide/scripts.adoc");
+    for (const std::string word : {"check", "diff", "export"})
+    {
+        const Options offered = optionsOfHelp(word);
+        const Options named = optionsIn(guide);
+        EXPECT_TRUE(std::ranges::includes(named, longOnes(offered))) << word;
+        const std::string command = "tolvane-map " + word + ' ';
+        for (std::size_t at = guide.find(command); at != std::string::npos; at = guide.find(command, at + 1))
         {
-            const std::string option = help.substr(at, help.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at) - at);
-            EXPECT_NE(page.find(option), std::string::npos) << option;
+            const std::string line = guide.substr(at, guide.find_first_of("\n`|", at) - at);
+            EXPECT_TRUE(std::ranges::includes(offered, optionsIn(line))) << line;
         }
     }
+    EXPECT_NE(guide.find("--version"), std::string::npos);
 }
 
 TEST(Documentation, TellsTheProgramsVersionInTheManPage)

@@ -13,7 +13,11 @@ _tolvane_map() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W "check diff export --help --version" -- "$current")
+        case "$current" in
+        -*) offers="-h --help --version" ;;
+        *) offers="check diff export" ;;
+        esac
+        mapfile -t COMPREPLY < <(compgen -W "$offers" -- "$current")
         return
     fi
     case "$word $previous" in
@@ -23,9 +27,9 @@ _tolvane_map() {
     "export --format") offers="csv text" ;;
     *)
         case "$word $current" in
-        "check -"*) offers="--json --modbus --name --format --warnings --quiet --help" ;;
-        "diff -"*) offers="--json --format --git --quiet --help" ;;
-        "export -"*) offers="--json --modbus --output --format --help" ;;
+        "check -"*) offers="-d --json -m --modbus --name --format --warnings -q --quiet -h --help" ;;
+        "diff -"*) offers="-d --json --format --git -q --quiet -h --help" ;;
+        "export -"*) offers="-d --json -m --modbus -o --output --format -h --help" ;;
         *)
             compopt -o filenames 2>/dev/null
             mapfile -t COMPREPLY < <(compgen -f -- "$current")
