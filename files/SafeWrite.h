@@ -16,5 +16,5 @@
 /// @param bytes  the whole new contents
 /// @return false when the file keeps its old contents (no such folder, not a regular file, write-protected, disk full)
 ///         or was taken away while it was written. Only the end of the program or of the disk while a file is
-///         rewritten in place can leave it damaged
+///         rewritten in place can leave it damaged. POSIX systems then say in `errno` why, if a call of theirs failed
 bool writeFileSafely(const std::filesystem::path& path, std::string_view bytes);

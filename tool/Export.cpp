@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr std::string_view standardOutput = "-";
+constexpr std::string_view standardStream = "-";
 
 bool isCsv(const ExportOptions& options)
 {
@@ -22,51 +22,63 @@ bool isCsv(const ExportOptions& options)
     return exportFormatFor(options.outputPath) == ExportFormat::Csv;
 }
 
+/// The file behind a path, to be compared. Where a system does not name the standard streams like this, they are
+/// compared with nothing.
+std::filesystem::path fileBehind(const std::string& path, const char* stream)
+{
+    return path == standardStream ? stream : path;
+}
+
 /// An export cannot be read back: written over the map or the database it would destroy what it was made from.
 bool isInput(const ExportOptions& options)
 {
-    std::error_code error;
-    return std::filesystem::equivalent(options.outputPath, options.mapPath, error) ||
-           (!options.databasePath.empty() &&
-            std::filesystem::equivalent(options.outputPath, options.databasePath, error));
-}
-
-/// Why a file cannot be written, as the system says it; empty when it does not say.
-std::string reasonAgainst(const std::filesystem::path& path)
-{
-    std::error_code error;
-    if (std::filesystem::is_directory(path, error))
-        return ": it is a folder";
-    const bool exists = std::filesystem::exists(path, error);
-    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
-    if (!exists && std::filesystem::exists(folder, error))
-        return {};
-    std::filebuf file; // for reading and writing, which makes and changes nothing
-    if (file.open(path, std::ios::in | std::ios::out | std::ios::binary) != nullptr)
-        return {};
-    return ": " + std::generic_category().message(errno);
+    const std::filesystem::path output = fileBehind(options.outputPath, "/dev/stdout");
+    const auto isOutput = [&](const std::string& input)
+    {
+        std::error_code error; // none of them is there, or it is no file: nothing is written over
+        return !input.empty() && std::filesystem::equivalent(output, fileBehind(input, "/dev/stdin"), error);
+    };
+    return isOutput(options.mapPath) || isOutput(options.databasePath);
 }
 
 ExitCode refuse(const ExportOptions& options, const std::string& reason)
 {
-    tell(options.outputPath + ": " + reason);
+    const bool isStream = options.outputPath == standardStream;
+    tell((isStream ? "standard output" : options.outputPath) + ": " + reason);
     return ExitCode::Failed;
+}
+
+/// Writes into a pipe or a device, which has no old contents to keep.
+bool writeInto(const std::string& path, std::string_view text)
+{
+    std::filebuf file;
+    return file.open(path, std::ios::out | std::ios::binary) != nullptr &&
+           file.sputn(text.data(), static_cast<std::streamsize>(text.size())) ==
+               static_cast<std::streamsize>(text.size()) &&
+           file.close() != nullptr;
+}
+
+ExitCode writeTo(const ExportOptions& options, std::string_view text)
+{
+    std::error_code error;
+    const bool isFile = !std::filesystem::is_other(options.outputPath, error);
+    errno = 0;
+    if (isFile ? writeFileSafely(options.outputPath, text) : writeInto(options.outputPath, text))
+        return ExitCode::Success;
+    const std::string reason = errno == 0 ? "" : ": " + std::generic_category().message(errno);
+    return refuse(options, "cannot be written" + reason);
 }
 
 } // namespace
 
 ExitCode exportTo(const ExportOptions& options)
 {
-    if (options.outputPath != standardOutput && isInput(options))
+    if (isInput(options))
         return refuse(options, "is read from and not written over");
     TagDatabase database;
     RegisterMap map;
     if (!readDatabase(options.databasePath, database) || !readMap(options.mapPath, database.tags, map))
         return ExitCode::Failed;
     const std::string text = isCsv(options) ? exportCsv(map) : exportTextReport(map);
-    if (options.outputPath == standardOutput)
-        return put(text, ExitCode::Success);
-    return writeFileSafely(options.outputPath, text)
-               ? ExitCode::Success
-               : refuse(options, "cannot be written" + reasonAgainst(options.outputPath));
+    return options.outputPath == standardStream ? put(text, ExitCode::Success) : writeTo(options, text);
 }

@@ -23,7 +23,10 @@ bool reserveGrowth(FileSystemCalls& calls, int descriptor, off_t oldSize, off_t 
     if (newSize <= oldSize)
         return true;
     const int error = calls.posixFallocate(descriptor, oldSize, newSize - oldSize);
-    return error == 0 || error == EOPNOTSUPP || error == EINVAL;
+    if (error == 0 || error == EOPNOTSUPP || error == EINVAL)
+        return true;
+    errno = error; // as other calls tell it
+    return false;
 }
 
 /// Writes without asking for room and cuts off what the file held after these bytes.

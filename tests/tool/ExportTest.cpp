@@ -9,6 +9,9 @@
 namespace
 {
 
+const std::string tool = TOLVANE_MAP " ";
+const std::string database = R"({"structure":[{"lable":"P"}],"database":[{"Name":"T","Type":"String","Size":8}]})";
+const std::string line = "HOLDING,00001,NONE,INT16,A,,1,UNLOCKED,OK\n";
 const std::string samplePath = TOLVANE_SAMPLES "/waterworks.csv";
 
 /// The sample plant as the editor exports it.
@@ -57,21 +60,50 @@ TEST_F(Export, WritesTheFormatThatItIsTold)
 
 TEST_F(Export, SizesTextsByTheDatabaseThatItIsGiven)
 {
-    folder.write("plant.json", R"({"structure":[{"lable":"P"}],"database":[{"Name":"T","Type":"String","Size":8}]})");
+    folder.write("plant.json", database);
     Surroundings surroundings = here();
     surroundings.input = "HOLDING,1,NONE,STRING,T,Text\n";
     EXPECT_EQ(runTool({"export", "-d", "plant.json", "-m", "-", "-o", "-", "--format", "csv"}, surroundings).output,
               "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION\nHOLDING,00001,STRING,4,---,T,Text\n");
 }
 
-TEST_F(Export, NeverWritesOverTheMapThatItReads)
+TEST_F(Export, NeverWritesOverWhatItReadsByWhateverName)
 {
-    const std::string line = "HOLDING,00001,NONE,INT16,A,,1,UNLOCKED,OK\n";
+    folder.write("plant.json", database);
     folder.write("map.csv", line);
-    const ToolRun run = runTool({"export", "-m", "map.csv", "-o", "./map.csv"}, here());
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.errors, "tolvane-map: ./map.csv: is read from and not written over\n");
+    ASSERT_EQ(runShell("ln map.csv hard.csv; ln -s map.csv soft.csv; ln -s plant.json soft.json", here()).exitCode, 0);
+    for (const std::string output : {"map.csv", "./map.csv", "hard.csv", "soft.csv", "plant.json", "soft.json"})
+    {
+        const ToolRun run = runTool({"export", "-m", "map.csv", "-d", "plant.json", "-o", output}, here());
+        EXPECT_EQ(run.exitCode, 2) << output;
+        EXPECT_EQ(run.errors, "tolvane-map: " + output + ": is read from and not written over\n");
+    }
     EXPECT_EQ(contents("map.csv"), line);
+    EXPECT_EQ(contents("plant.json"), database);
+}
+
+TEST_F(Export, NeverWritesOverTheFileBehindStandardInputNorIntoTheMapBehindStandardOutput)
+{
+    folder.write("map.csv", line);
+    const ToolRun over = runShell(tool + "export -m - -o map.csv <map.csv", here());
+    EXPECT_EQ(over.exitCode, 2);
+    EXPECT_EQ(over.errors, "tolvane-map: map.csv: is read from and not written over\n");
+    const ToolRun into = runShell(tool + "export -m map.csv -o - >>map.csv", here());
+    EXPECT_EQ(into.exitCode, 2);
+    EXPECT_EQ(into.errors, "tolvane-map: standard output: is read from and not written over\n");
+    EXPECT_EQ(contents("map.csv"), line);
+}
+
+TEST_F(Export, WritesIntoPipesAndDevices)
+{
+    folder.write("map.csv", line);
+    EXPECT_EQ(
+        runShell("mkfifo pipe; cat pipe & " + tool + "export -m map.csv -o pipe --format csv; wait", here()).output,
+        "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION\nHOLDING,00001,INT16,1,---,A,\n");
+    EXPECT_EQ(runTool({"export", "-m", "map.csv", "-o", "/dev/null"}, here()).exitCode, 0);
+    const ToolRun full = runTool({"export", "-m", "map.csv", "-o", "/dev/full"}, here());
+    EXPECT_EQ(full.exitCode, 2);
+    EXPECT_EQ(full.errors, "tolvane-map: /dev/full: cannot be written: No space left on device\n");
 }
 
 TEST_F(Export, EndsWithTwoWhenAFileCannotBeReadOrWritten)
@@ -81,6 +113,34 @@ TEST_F(Export, EndsWithTwoWhenAFileCannotBeReadOrWritten)
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(run.errors, "tolvane-map: none/map.txt: cannot be written: No such file or directory\n");
     EXPECT_EQ(runTool({"export", "-m", samplePath, "-o", "."}, here()).errors,
-              "tolvane-map: .: cannot be written: it is a folder\n");
+              "tolvane-map: .: cannot be written: Is a directory\n");
     EXPECT_EQ(runShell("ls -A", here()).output, "");
+}
+
+TEST_F(Export, KeepsTheOldFileAndTellsTheReasonWhenItsSizeIsLimited)
+{
+    const std::string limited = "ulimit -f 8; " + tool + "export -m " + samplePath + " -o ";
+    for (const std::string name : {"map.txt", "hard.txt"})
+    {
+        folder.write("map.txt", "old");
+        runShell("ln -f map.txt hard.txt", here()); // more names than one: the file is rewritten in place
+        const ToolRun run = runShell(limited + name, here());
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_EQ(run.errors, "tolvane-map: " + name + ": cannot be written: File too large\n");
+        EXPECT_EQ(contents(name), "old");
+        EXPECT_EQ(runShell("ls -A", here()).output, "hard.txt\nmap.txt\n");
+        runShell("rm hard.txt", here());
+    }
+}
+
+TEST_F(Export, KeepsTheOldFileAndTellsTheReasonWhenTheDiskIsFull)
+{
+    const std::string small = "unshare --mount sh -c 'mount -t tmpfs -o size=16k none . && ";
+    if (runShell(small + "true'", here()).exitCode != 0)
+        GTEST_SKIP() << "no right to mount a small disk";
+    const ToolRun run = runShell(small + "cd \"$PWD\" && echo old >map.txt && " + tool + "export -m " + samplePath +
+                                     " -o map.txt; echo $?; ls -A; cat map.txt'",
+                                 here());
+    EXPECT_EQ(run.errors, "tolvane-map: map.txt: cannot be written: No space left on device\n");
+    EXPECT_EQ(run.output, "2\nmap.txt\nold\n");
 }
