@@ -17,8 +17,10 @@ constexpr int buttonSide = 32;
 
 wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const wxString& tooltip, bool hovering)
 {
-    auto* const button = new wxBitmapButton(parent, wxID_ANY, namedImage(name), wxDefaultPosition, wxDefaultSize,
-                                            wxBORDER_NONE | wxBU_EXACTFIT);
+    // With a size of its own GTK is not asked how large the button would like to be, which takes it 0.2 ms each time.
+    auto* const button =
+        new wxBitmapButton(parent, wxID_ANY, namedImage(name), wxDefaultPosition,
+                           parent->FromDIP(wxSize(buttonSide, buttonSide)), wxBORDER_NONE | wxBU_EXACTFIT);
     button->SetBackgroundColour(theme::colour(theme::headerBackground));
     // The frame that shows the focus is drawn in it.
     button->SetForegroundColour(theme::colour(theme::contentText));
@@ -26,7 +28,6 @@ wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const 
     // A space button must not change under the mouse: its look says which space is shown.
     if (hovering)
         button->SetBitmapCurrent(namedImage(name + "_hover"));
-    button->SetMinSize(button->FromDIP(wxSize(buttonSide, buttonSide)));
     button->SetToolTip(tooltip);
     // A picture says nothing to a screen reader.
     desktop::setAccessibleName(*button, tooltip);

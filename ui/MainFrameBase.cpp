@@ -131,6 +131,16 @@ void MainFrameBase::connectEvents()
     mapGrid->GetGridWindow()->Bind(wxEVT_RIGHT_DOWN, &MainFrameBase::OnMapGridRightDown, this);
     mapGrid->Bind(wxEVT_CONTEXT_MENU, &MainFrameBase::OnMapGridContextMenu, this);
     Bind(wxEVT_TIMER, &MainFrameBase::OnTimer, this, timer.GetId());
+    Bind(wxEVT_SIZE, &MainFrameBase::OnSize, this);
+}
+
+void MainFrameBase::OnSize(wxSizeEvent& event)
+{
+    // Toolkit 3.2 with GTK gives a window that is maximised before it is shown the size of its frame alone, twice. All
+    // controls would be laid out for no room, and again a moment later.
+    if (!GetClientSize().IsFullySpecified() || GetClientSize().GetWidth() <= 1)
+        return;
+    event.Skip();
 }
 
 void MainFrameBase::fitColumns()

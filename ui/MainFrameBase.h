@@ -53,6 +53,7 @@ private:
     void createMapPanel();
     wxPanel* createStatusLine();
     void connectEvents();
+    void OnSize(wxSizeEvent& event);
 
     GridHeader* mapGridHeader = nullptr;
 };

@@ -31,7 +31,8 @@ GridHeader::GridHeader(wxWindow* parent, wxGrid& columnsOf, GridColumns gridColu
         if (!columns[column].title.empty())
             titles.push_back({static_cast<int>(column), createTitle(columns[column].title)});
     }
-    SetMinSize(wxSize(-1, titles.front().text->GetBestSize().GetHeight() + 2 * FromDIP(titleGap)));
+    titleHeight = titles.front().text->GetBestSize().GetHeight();
+    SetMinSize(wxSize(-1, titleHeight + 2 * FromDIP(titleGap)));
     const auto settleAfterwards = [this](wxSizeEvent& event)
     {
         event.Skip();
@@ -84,7 +85,7 @@ void GridHeader::placeTitles()
         const bool last = &title == &titles.back();
         title.text->SetMinSize(wxSize(last ? 0 : width, -1));
         title.text->SetSize(left, FromDIP(titleGap), last ? std::max(GetClientSize().GetWidth() - left, width) : width,
-                            title.text->GetBestSize().GetHeight());
+                            titleHeight);
     }
 }
 

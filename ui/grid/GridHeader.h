@@ -46,5 +46,6 @@ private:
     GridColumns columns;
     ColumnDrag drag;
     std::vector<Title> titles;
-    int placedLeft = 0; ///< what `columnsLeft` was when the titles were placed
+    int titleHeight = 0; ///< pixels; kept, because GTK is slow to answer and each change of the size asks
+    int placedLeft = 0;  ///< what `columnsLeft` was when the titles were placed
 };
