@@ -30,7 +30,8 @@ protected:
         surroundings.variables = {{"GIT_CONFIG_GLOBAL", "/dev/null"},
                                   {"GIT_CONFIG_SYSTEM", "/dev/null"},
                                   {"GIT_CEILING_DIRECTORIES", folder.path().parent_path().string()}};
-        return runShell("git " + arguments, surroundings);
+        // Whoever runs the tests from a hook has git's variables point at the repository of that hook.
+        return runShell("unset $(git rev-parse --local-env-vars); git " + arguments, surroundings);
     }
 
     TempFolder folder;
