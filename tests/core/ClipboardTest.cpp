@@ -3,7 +3,6 @@
 #include "map/RegisterMoves.h"
 #include "map/Selection.h"
 #include "tests/core/MapBuilder.h"
-#include "ui/Messages.h"
 
 #include <gtest/gtest.h>
 
@@ -368,17 +367,6 @@ TEST_F(Clipboard, CommandsLeaveTheOtherSpacesAlone)
     pasteRegisters(map, 12);
     for (const RegisterSpace space : {RegisterSpace::Coil, RegisterSpace::Input, RegisterSpace::Status})
         EXPECT_TRUE(looksLike(map.slots(space), 10, "AAB."));
-}
-
-TEST(Messages, AreWordForWord)
-{
-    EXPECT_STREQ(pasteRefusedText, "Cannot paste here - there is not enough room before reaching either a locked "
-                                   "register or the end of the register space");
-    EXPECT_STREQ(compressRefusedText,
-                 "This action can not be completed as the selected range contains locked registers");
-    EXPECT_STREQ(purgeQuestionText, "This will delete all registers that contain an error.\nAre you sure you want to "
-                                    "continue?");
-    EXPECT_STREQ(confirmationCaption, "Confirmation");
 }
 
 TEST(InsertionTarget, IsTheFirstSelectedRow)

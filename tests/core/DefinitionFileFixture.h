@@ -2,6 +2,8 @@
 
 #include "files/ReadFile.h"
 #include "map/DefinitionFile.h"
+#include "tests/core/MapBuilder.h"
+#include "tests/core/TagBuilder.h"
 #include "tests/core/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -26,30 +28,9 @@ protected:
         return readFile(file).value_or("no file");
     }
 
-    void addTag(std::string_view name, TagType type, std::uint8_t size, std::int32_t elements = 2)
-    {
-        TagRecord tag;
-        tag.name = InternedText(name);
-        tag.type = type;
-        tag.size = size;
-        tag.elements = elements;
-        tags.append(tag);
-    }
-
     const RegisterEntry& slot(int address, RegisterSpace space = RegisterSpace::Holding) const
     {
         return map.slots(space)[address];
-    }
-
-    int usedSlots() const
-    {
-        int count = 0;
-        for (const RegisterSpace space : allSpaces)
-        {
-            for (const RegisterEntry& entry : map.slots(space))
-                count += entry.used ? 1 : 0;
-        }
-        return count;
     }
 
     bool sameSlotsAs(const RegisterMap& other) const

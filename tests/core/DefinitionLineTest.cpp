@@ -1,4 +1,5 @@
 #include "map/DefinitionPlacer.h"
+#include "tests/core/MapBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -34,17 +35,6 @@ protected:
 
     RegisterEntry& slot(int address, RegisterSpace space = holding) { return map.slots(space)[address]; }
 
-    int usedSlots() const
-    {
-        int count = 0;
-        for (const RegisterSpace space : allSpaces)
-        {
-            for (const RegisterEntry& entry : map.slots(space))
-                count += entry.used ? 1 : 0;
-        }
-        return count;
-    }
-
     RegisterMap map;
 };
 
@@ -64,7 +54,7 @@ TEST_F(DefinitionLine, FillsEverySlotOfItsObject)
     EXPECT_EQ(slot(100), expected);
     expected.address = 101;
     EXPECT_EQ(slot(101), expected);
-    EXPECT_EQ(usedSlots(), 2);
+    EXPECT_EQ(usedSlots(map), 2);
 }
 
 TEST_F(DefinitionLine, LockedWritableCoilIsRead)
@@ -75,7 +65,7 @@ TEST_F(DefinitionLine, LockedWritableCoilIsRead)
     EXPECT_TRUE(coil.locked);
     EXPECT_TRUE(coil.write);
     EXPECT_EQ(coil.tagname.view(), "Pump2Run");
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
 }
 
 TEST_F(DefinitionLine, EachKeywordLeadsToItsSpaceWhateverTheType)
@@ -89,7 +79,7 @@ TEST_F(DefinitionLine, EachKeywordLeadsToItsSpaceWhateverTheType)
         EXPECT_EQ(slot(100, space).type, DataType::Double);
         EXPECT_TRUE(slot(103, space).used);
     }
-    EXPECT_EQ(usedSlots(), 16);
+    EXPECT_EQ(usedSlots(map), 16);
 }
 
 TEST_F(DefinitionLine, SpaceKeywordIsComparedExactly)
@@ -100,7 +90,7 @@ TEST_F(DefinitionLine, SpaceKeywordIsComparedExactly)
         fields.space = keyword;
         parse(fields);
     }
-    EXPECT_EQ(usedSlots(), 0);
+    EXPECT_EQ(usedSlots(map), 0);
 }
 
 TEST_F(DefinitionLine, AddressIsADecimalNumberFromItsLeadingDigits)
@@ -113,7 +103,7 @@ TEST_F(DefinitionLine, AddressIsADecimalNumberFromItsLeadingDigits)
         fields.address = text;
         EXPECT_TRUE(place(fields, address).used) << text;
         EXPECT_EQ(slot(address).startAddress, static_cast<std::uint32_t>(address)) << text;
-        EXPECT_EQ(usedSlots(), 1) << text;
+        EXPECT_EQ(usedSlots(map), 1) << text;
     }
 }
 
@@ -163,7 +153,7 @@ TEST_F(DefinitionLine, FixedTypesHaveTheirCountWhateverTheFieldSays)
             fields.count = countText;
             EXPECT_EQ(place(fields).registerCount, count) << type;
             EXPECT_EQ(typeName(slot(100).type), type);
-            EXPECT_EQ(usedSlots(), static_cast<int>(count)) << type;
+            EXPECT_EQ(usedSlots(map), static_cast<int>(count)) << type;
         }
     }
 }
@@ -178,7 +168,7 @@ TEST_F(DefinitionLine, UnknownTypeIsAnInt16OfOneRegister)
         fields.count = "5";
         EXPECT_EQ(place(fields).type, DataType::Int16) << type;
         EXPECT_EQ(slot(100).registerCount, 1U) << type;
-        EXPECT_EQ(usedSlots(), 1) << type;
+        EXPECT_EQ(usedSlots(map), 1) << type;
     }
 }
 
@@ -188,7 +178,7 @@ TEST_F(DefinitionLine, StringTakesTheCountOfItsField)
     fields.type = "STRING";
     fields.count = " 3x";
     EXPECT_EQ(place(fields).registerCount, 3U);
-    EXPECT_EQ(usedSlots(), 3);
+    EXPECT_EQ(usedSlots(map), 3);
 }
 
 TEST_F(DefinitionLine, StringOfNoRegistersIsDropped)
@@ -200,7 +190,7 @@ TEST_F(DefinitionLine, StringOfNoRegistersIsDropped)
         fields.count = count;
         parse(fields);
     }
-    EXPECT_EQ(usedSlots(), 0);
+    EXPECT_EQ(usedSlots(map), 0);
 }
 
 TEST_F(DefinitionLine, WritePermissionTravelsBehindTheTagname)
@@ -231,7 +221,7 @@ TEST_F(DefinitionLine, TagnameWithAnyOtherDotIsDropped)
         DefinitionFields fields = plain();
         fields.tagname = tagname;
         parse(fields);
-        EXPECT_EQ(usedSlots(), 0) << tagname;
+        EXPECT_EQ(usedSlots(map), 0) << tagname;
     }
 }
 
@@ -321,7 +311,7 @@ TEST_F(DefinitionLine, ObjectIsCutOffAtTheEndOfTheSpace)
     place({"COIL", "65535", "NONE", "DOUBLE", "X", "", "4", "UNLOCKED", "OK"});
     EXPECT_EQ(slot(65535, RegisterSpace::Coil).registerCount, 4U);
     EXPECT_FALSE(slot(0, RegisterSpace::Input).used);
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
 }
 
 TEST_F(DefinitionLine, AddressBehindTheSpaceLeavesNothing)
@@ -333,14 +323,14 @@ TEST_F(DefinitionLine, AddressBehindTheSpaceLeavesNothing)
         fields.type = "STRING";
         fields.count = "2147483647";
         parse(fields);
-        EXPECT_EQ(usedSlots(), 0) << address;
+        EXPECT_EQ(usedSlots(map), 0) << address;
     }
 }
 
 TEST_F(DefinitionLine, NegativeAddressLeavesTheRegistersThatReachTheSpace)
 {
     place({"HOLDING", "-2", "NONE", "DOUBLE", "X", "", "4", "UNLOCKED", "OK"});
-    EXPECT_EQ(usedSlots(), 2);
+    EXPECT_EQ(usedSlots(map), 2);
     for (const int address : {0, 1})
     {
         EXPECT_EQ(slot(address).startAddress, 4294967294U);
@@ -364,7 +354,7 @@ TEST_F(DefinitionLine, NegativeAddressThatReachesNothingLeavesNothing)
     longest.type = "STRING";
     longest.count = "2147483647";
     parse(longest);
-    EXPECT_EQ(usedSlots(), 0);
+    EXPECT_EQ(usedSlots(map), 0);
 }
 
 TEST_F(DefinitionLine, LongestObjectFillsTheSpaceFromAnywhere)
@@ -379,7 +369,7 @@ TEST_F(DefinitionLine, LongestObjectFillsTheSpaceFromAnywhere)
         fields.type = "STRING";
         fields.count = "2147483647";
         parse(fields);
-        EXPECT_EQ(usedSlots(), used) << address;
+        EXPECT_EQ(usedSlots(map), used) << address;
     }
 }
 

@@ -68,7 +68,7 @@ TEST_F(DefinitionLoadResult, IsPartialWhereBytesBehindAMarkAreNoCharacters)
 
 TEST_F(DefinitionLoadResult, IsWholeForShortFormsAndOtherWaysToSayTheSame)
 {
-    addTag("Name", TagType::String, 12);
+    tags.append(tagOf("Name", TagType::String, 12));
     for (const char* const line :
          {"HOLDING,00010,NONE,STRING,Name,about",                          // counted by the database's tag
           "HOLDING,00010,NONE,FLOAT,Name,about",                           // counted by its type
@@ -161,5 +161,5 @@ TEST_F(DefinitionLoadResult, IsPartialForADatabaseGivenByMistake)
 {
     EXPECT_EQ(loadOf("{\n  \"structure\": [ { \"lable\": \"Works\", \"dbprefix\": \"\" } ],\n  \"database\": []\n}\n"),
               Partial);
-    EXPECT_EQ(usedSlots(), 0);
+    EXPECT_EQ(usedSlots(map), 0);
 }

@@ -1,5 +1,7 @@
 #include "map/DefinitionReader.h"
 
+#include "tests/core/TagBuilder.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -60,11 +62,7 @@ TEST(DefinitionReader, TellsOfSeveralFaultsTheFirst)
 TEST(DefinitionReader, TellsTheRegistersThatTheDatabaseGivesALineOfSixFields)
 {
     TagTable tags;
-    TagRecord tag;
-    tag.name = InternedText("Text");
-    tag.type = TagType::String;
-    tag.size = 7;
-    tags.append(tag);
+    tags.append(tagOf("Text", TagType::String, 7));
     EXPECT_EQ(toldLines("HOLDING,1,NONE,STRING,Text,about\n", tags), (Told{"1: HOLDING 1+4 Text"}));
 }
 

@@ -22,7 +22,7 @@ TEST_F(DefinitionReading, NineFieldsArePlacedAsTheyStand)
     EXPECT_FALSE(slot(100).locked);
     EXPECT_TRUE(slot(7, RegisterSpace::Coil).locked);
     EXPECT_TRUE(slot(7, RegisterSpace::Coil).write);
-    EXPECT_EQ(usedSlots(), 3);
+    EXPECT_EQ(usedSlots(map), 3);
 }
 
 TEST_F(DefinitionReading, SevenFieldsAreUnlocked)
@@ -32,14 +32,14 @@ TEST_F(DefinitionReading, SevenFieldsAreUnlocked)
     EXPECT_TRUE(slot(14).used);
     EXPECT_TRUE(slot(10).write);
     EXPECT_FALSE(slot(10).locked);
-    EXPECT_EQ(usedSlots(), 5);
+    EXPECT_EQ(usedSlots(map), 5);
 }
 
 TEST_F(DefinitionReading, SevenFieldsAtTheEndOfTheSpaceKeepTheirCount)
 {
     load("HOLDING,65535,NONE,DOUBLE,X,,4");
     EXPECT_EQ(slot(65535).registerCount, 4U);
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
     EXPECT_EQ(saved(), "HOLDING,65535,NONE,DOUBLE,X,,4,UNLOCKED,ERROR" + lineEnd);
 }
 
@@ -57,10 +57,10 @@ TEST_F(DefinitionReading, SixFieldsHaveTheCountOfTheirType)
 
 TEST_F(DefinitionReading, SixFieldStringIsSizedByTheDatabase)
 {
-    addTag("Even", TagType::String, 6);
-    addTag("Odd", TagType::String, 7);
-    addTag("Longest", TagType::String, 255);
-    addTag("Number", TagType::Integer, 4);
+    tags.append(tagOf("Even", TagType::String, 6));
+    tags.append(tagOf("Odd", TagType::String, 7));
+    tags.append(tagOf("Longest", TagType::String, 255));
+    tags.append(tagOf("Number", TagType::Integer, 4));
     load("HOLDING,0,NONE,STRING,Even,x\nHOLDING,10,NONE,STRING,Odd,x\nHOLDING,200,NONE,STRING,Longest,x\n"
          "HOLDING,400,NONE,STRING,Number,x\nHOLDING,500,NONE,STRING,Missing,x\nHOLDING,600,NONE,STRING,even,x\n");
     EXPECT_EQ(slot(0).registerCount, 3U);
@@ -73,15 +73,15 @@ TEST_F(DefinitionReading, SixFieldStringIsSizedByTheDatabase)
 
 TEST_F(DefinitionReading, SixFieldStringOfATagWithoutSizeIsDropped)
 {
-    addTag("Nothing", TagType::String, 0);
+    tags.append(tagOf("Nothing", TagType::String, 0));
     load("HOLDING,0,NONE,STRING,Nothing,x\n");
-    EXPECT_EQ(usedSlots(), 0);
+    EXPECT_EQ(usedSlots(map), 0);
 }
 
 TEST_F(DefinitionReading, SixFieldStringIsLookedUpByItsNameUpToTheFirstDot)
 {
-    addTag("Pump", TagType::String, 10);
-    addTag("Pump.1", TagType::String, 40);
+    tags.append(tagOf("Pump", TagType::String, 10));
+    tags.append(tagOf("Pump.1", TagType::String, 40));
     load("HOLDING,0,NONE,STRING,Pump.1,x\nHOLDING,50,NONE,STRING,Pump.1.1,x\n");
     EXPECT_EQ(slot(0).registerCount, 5U);
     EXPECT_EQ(slot(0).tagname.view(), "Pump");
@@ -91,8 +91,8 @@ TEST_F(DefinitionReading, SixFieldStringIsLookedUpByItsNameUpToTheFirstDot)
 
 TEST_F(DefinitionReading, SixFieldStringTakesTheFirstOfEqualTags)
 {
-    addTag("Twice", TagType::String, 8);
-    addTag("Twice", TagType::String, 20);
+    tags.append(tagOf("Twice", TagType::String, 8));
+    tags.append(tagOf("Twice", TagType::String, 20));
     load("HOLDING,0,NONE,STRING,Twice,x\n");
     EXPECT_EQ(slot(0).registerCount, 4U);
 }
@@ -101,18 +101,18 @@ TEST_F(DefinitionReading, SixFieldStringWithoutNameMeetsNoUnusedTag)
 {
     load("HOLDING,0,NONE,STRING,,x\n");
     EXPECT_EQ(slot(0).registerCount, 1U);
-    addTag("", TagType::String, 8);
+    tags.append(tagOf("", TagType::String, 8));
     load("HOLDING,10,NONE,STRING,,x\n");
     EXPECT_EQ(slot(10).registerCount, 4U);
 }
 
 TEST_F(DefinitionReading, SevenAndNineFieldStringsAreNotSizedByTheDatabase)
 {
-    addTag("Name", TagType::String, 20);
+    tags.append(tagOf("Name", TagType::String, 20));
     load(
         "HOLDING,0,NONE,STRING,Name,x,3\nHOLDING,10,NONE,STRING,Name,x,0\nHOLDING,20,NONE,STRING,Name,x,x,LOCKED,OK\n");
     EXPECT_EQ(slot(0).registerCount, 3U);
-    EXPECT_EQ(usedSlots(), 3);
+    EXPECT_EQ(usedSlots(map), 3);
 }
 
 TEST_F(DefinitionReading, LinesOfAnyOtherNumberOfFieldsAreSkipped)
@@ -121,7 +121,7 @@ TEST_F(DefinitionReading, LinesOfAnyOtherNumberOfFieldsAreSkipped)
          "HOLDING,2,NONE,INT16,A,text,1,LOCKED\nHOLDING,3,NONE,INT16,A,a,b,1,UNLOCKED,OK\n"
          "HOLDING,4,NONE,INT16,A,a,1,UNLOCKED,OK,,,,,,,,,,,,\n,,,,,,,,\n"
          "HOLDING,5,NONE,INT16,A,text,1,LOCKED,OK\n");
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
     EXPECT_TRUE(slot(5).used);
 }
 
@@ -137,7 +137,7 @@ TEST_F(DefinitionReading, OneEmptyFieldBehindAFinalCommaIsNotCounted)
          "HOLDING,8,NONE,INT16,A,text,1,LOCKED,OK,,\n"); // ten
     for (const int address : {1, 2, 3, 6})
         EXPECT_TRUE(slot(address).used) << address;
-    EXPECT_EQ(usedSlots(), 4);
+    EXPECT_EQ(usedSlots(map), 4);
 }
 
 TEST_F(DefinitionReading, EmptyFieldsBetweenCommasCount)
@@ -147,14 +147,14 @@ TEST_F(DefinitionReading, EmptyFieldsBetweenCommasCount)
     EXPECT_EQ(slot(0).type, DataType::Int16);
     EXPECT_TRUE(slot(0).tagname.empty());
     EXPECT_TRUE(slot(5, RegisterSpace::Coil).used);
-    EXPECT_EQ(usedSlots(), 2);
+    EXPECT_EQ(usedSlots(map), 2);
 }
 
 TEST_F(DefinitionReading, FieldsAreNotTrimmedAndQuotesMeanNothing)
 {
     load("HOLDING , 1,NONE,INT16,A,x,1,UNLOCKED,OK\n HOLDING,2,NONE,INT16,A,x,1,UNLOCKED,OK\n"
          "\"HOLDING\",3,NONE,INT16,A,x,1,UNLOCKED,OK\nHOLDING,4,NONE,INT16, A B ,\" x \",1,UNLOCKED,OK\n");
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
     EXPECT_EQ(slot(4).tagname.view(), " A B ");
     EXPECT_EQ(slot(4).description.view(), "\" x \"");
 }
@@ -166,7 +166,7 @@ TEST_F(DefinitionReading, MalformedLinesDoNotDisturbTheOthers)
          "HOLDING,70000,NONE,INT16,A,,1,UNLOCKED,OK\nHOLDING,6,NONE,INT16,A,,1,UNLOCKED,OK\n");
     EXPECT_TRUE(slot(1).used);
     EXPECT_TRUE(slot(6).used);
-    EXPECT_EQ(usedSlots(), 2);
+    EXPECT_EQ(usedSlots(map), 2);
 }
 
 TEST_F(DefinitionReading, LaterLinesWinButForTheSwapFlags)
@@ -196,7 +196,7 @@ TEST_F(DefinitionReading, AnyLineEndIsRead)
 {
     load("HOLDING,1,NONE,INT16,A,a,1,UNLOCKED,OK\r\nHOLDING,2,NONE,INT16,B,b\rHOLDING,3,NONE,INT16,C,c\n"
          "\r\n\r\nHOLDING,4,NONE,INT16,D,d");
-    EXPECT_EQ(usedSlots(), 4);
+    EXPECT_EQ(usedSlots(map), 4);
     EXPECT_EQ(slot(2).description.view(), "b");
     EXPECT_EQ(slot(4).description.view(), "d");
 }
@@ -240,7 +240,7 @@ TEST_F(DefinitionReading, BytesThatAreNoUtf8AreIso8859)
 
 TEST_F(DefinitionReading, StatusFieldIsNotRead)
 {
-    addTag("A", TagType::Integer, 0);
+    tags.append(tagOf("A", TagType::Integer, 0));
     load("HOLDING,1,NONE,INT16,A,x,1,UNLOCKED,ERROR\nHOLDING,2,NONE,INT16,Missing,x,1,UNLOCKED,OK\n");
     validateMap(map, tags);
     EXPECT_EQ(slot(1).tagIndex, 0);

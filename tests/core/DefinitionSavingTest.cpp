@@ -14,7 +14,7 @@ const std::string lineEnd(nativeLineEnd);
 
 TEST_F(DefinitionSaving, SavedLineHasItsNineFields)
 {
-    addTag("Tank1Level", TagType::Numeric, 0);
+    tags.append(tagOf("Tank1Level", TagType::Numeric, 0));
     load("COIL,7,NONE,INT16,Pump2Run.1,Pump 2 run command,1,LOCKED,OK\n"
          "HOLDING,100,WORDS+BYTES,FLOAT,Tank1Level,Level of tank 1,2,UNLOCKED,ERROR\n");
     validateMap(map, tags);
@@ -83,7 +83,7 @@ TEST_F(DefinitionSaving, OnlyHeadsOfUsedSlotsAreSaved)
     load("HOLDING,10,NONE,DOUBLE,D,x\n");
     map.clearSlot(holding, 10);
     map.slots(holding)[20].tagname = InternedText("left behind by a move");
-    EXPECT_EQ(usedSlots(), 3);
+    EXPECT_EQ(usedSlots(map), 3);
     EXPECT_EQ(saved(), "");
 }
 
@@ -109,7 +109,7 @@ TEST_F(DefinitionSaving, DescriptionWithACommaIsLostOnTheNextStart)
                         "HOLDING,00002,NONE,INT16,B,plain,1,UNLOCKED,ERROR" + lineEnd);
     map.initialise();
     load(text);
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
     EXPECT_TRUE(slot(2).used);
 }
 
@@ -172,12 +172,12 @@ TEST_F(DefinitionSaving, WhatWasSavedIsReadBackEqualAndSavedAlike)
 TEST_F(DefinitionSaving, RegistersOfANegativeAddressAreNeverSaved)
 {
     load("HOLDING,-2,NONE,DOUBLE,Orphan,x,4,UNLOCKED,OK\nHOLDING,5,NONE,INT16,A,x,1,UNLOCKED,OK\n");
-    EXPECT_EQ(usedSlots(), 3);
+    EXPECT_EQ(usedSlots(map), 3);
     const std::string text = saved();
     EXPECT_EQ(text, "HOLDING,00005,NONE,INT16,A,x,1,UNLOCKED,ERROR" + lineEnd);
     map.initialise();
     load(text);
-    EXPECT_EQ(usedSlots(), 1);
+    EXPECT_EQ(usedSlots(map), 1);
 }
 
 TEST_F(DefinitionSaving, ReloadedMapThatIsChangedBackIsNotModified)

@@ -2,7 +2,9 @@
 
 #include "map/RegisterMap.h"
 
+#include <algorithm>
 #include <cctype>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -98,6 +100,15 @@ inline std::string pictureOf(const RegisterSlots& slots, int first, int count)
                                                      : std::toupper(slot.tagname.view().front()));
     }
     return picture;
+}
+
+/// How many slots of the four spaces are used.
+inline int usedSlots(const RegisterMap& map)
+{
+    std::ptrdiff_t count = 0;
+    for (const RegisterSpace space : allSpaces)
+        count += std::count_if(map.slots(space).begin(), map.slots(space).end(), std::mem_fn(&RegisterEntry::used));
+    return static_cast<int>(count);
 }
 
 /// True when the slots are as they would be after drawing the picture there, every field of them.

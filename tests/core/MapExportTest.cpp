@@ -1,16 +1,12 @@
 #include "map/MapExport.h"
 
+#include "files/ReadFile.h"
+#include "tests/core/TempFolder.h"
 #include "text/Lines.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
-
-namespace fs = std::filesystem;
 
 namespace
 {
@@ -76,23 +72,9 @@ std::string csvRow(const RegisterMap& map)
 class MapExportFile : public testing::Test
 {
 protected:
-    MapExportFile()
-    {
-        std::string name = (fs::temp_directory_path() / "map-export-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr)
-            throw std::runtime_error("no temporary folder");
-        folder = name;
-        place(map, RegisterSpace::Coil, 3, object(DataType::Int16, 1, "PUMP"));
-    }
-    ~MapExportFile() override { fs::remove_all(folder); }
+    MapExportFile() { place(map, RegisterSpace::Coil, 3, object(DataType::Int16, 1, "PUMP")); }
 
-    static std::string contents(const fs::path& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    fs::path folder;
+    TempFolder folder;
     RegisterMap map;
 };
 
@@ -292,18 +274,18 @@ TEST(MapExport, FullMapHasALineForEveryRegister)
 TEST_F(MapExportFile, NameDecidesWhatIsWritten)
 {
     EXPECT_TRUE(exportMap(map, folder / "data.CSV"));
-    EXPECT_EQ(contents(folder / "data.CSV"), exportCsv(map));
+    EXPECT_EQ(readFile(folder / "data.CSV"), exportCsv(map));
     EXPECT_TRUE(exportMap(map, folder / "data.txt"));
-    EXPECT_EQ(contents(folder / "data.txt"), exportTextReport(map));
+    EXPECT_EQ(readFile(folder / "data.txt"), exportTextReport(map));
     EXPECT_TRUE(exportMap(map, folder / "data"));
-    EXPECT_EQ(contents(folder / "data"), exportTextReport(map));
+    EXPECT_EQ(readFile(folder / "data"), exportTextReport(map));
 }
 
 TEST_F(MapExportFile, OldFileIsOverwrittenWhole)
 {
-    std::ofstream(folder / "data.csv") << std::string(10000, 'x');
+    folder.write("data.csv", std::string(10000, 'x'));
     EXPECT_TRUE(exportMap(map, folder / "data.csv"));
-    EXPECT_EQ(contents(folder / "data.csv"), exportCsv(map));
+    EXPECT_EQ(readFile(folder / "data.csv"), exportCsv(map));
 }
 
 TEST_F(MapExportFile, FolderThatIsMissingIsReported)

@@ -1,6 +1,6 @@
 #include "source/TagNames.h"
 
-#include "tests/core/NamedTags.h"
+#include "tests/core/TagBuilder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "map/TagPlacing.h"
 
 #include "map/Clipboard.h"
+#include "tests/core/TagBuilder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,16 +9,6 @@
 
 namespace
 {
-
-TagRecord tagOf(std::string_view name, TagType type, std::uint8_t size = 0)
-{
-    TagRecord tag;
-    tag.name = InternedText(name);
-    tag.description = InternedText("about " + std::string(name));
-    tag.type = type;
-    tag.size = size;
-    return tag;
-}
 
 constexpr auto unknownType = static_cast<TagType>(7);
 

@@ -1,27 +1,17 @@
 #include "source/TagTable.h"
 
+#include "tests/core/TagBuilder.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
-namespace
-{
-
-TagRecord named(const std::string& name)
-{
-    TagRecord record;
-    record.name = InternedText(name);
-    return record;
-}
-
-} // namespace
-
 TEST(TagTable, FirstOfEqualNamesIsFound)
 {
     TagTable table;
-    table.append(named("A"));
-    table.append(named("B"));
-    table.append(named("A"));
+    table.append(tagOf("A"));
+    table.append(tagOf("B"));
+    table.append(tagOf("A"));
     EXPECT_EQ(table.count(), 3);
     EXPECT_EQ(table.find(InternedText("A")), 0);
     EXPECT_EQ(table.find(InternedText("B")), 1);
@@ -32,10 +22,10 @@ TEST(TagTable, EmptyNameIsTheFirstRecordThatHasNone)
 {
     TagTable table;
     EXPECT_EQ(table.find(InternedText()), 0);
-    table.append(named("A"));
+    table.append(tagOf("A"));
     EXPECT_EQ(table.find(InternedText()), 1);
-    table.append(named(""));
-    table.append(named("B"));
+    table.append(tagOf(""));
+    table.append(tagOf("B"));
     EXPECT_EQ(table.find(InternedText()), 1);
 }
 
@@ -43,8 +33,8 @@ TEST(TagTable, FullTableTakesNoMoreAndFindsEveryName)
 {
     TagTable table;
     for (int i = 0; i < tagCapacity; ++i)
-        ASSERT_TRUE(table.append(named(std::to_string(i))));
-    EXPECT_FALSE(table.append(named("one more")));
+        ASSERT_TRUE(table.append(tagOf(std::to_string(i))));
+    EXPECT_FALSE(table.append(tagOf("one more")));
     EXPECT_EQ(table.count(), tagCapacity);
     for (int i = 0; i < tagCapacity; ++i)
         ASSERT_EQ(table.find(InternedText(std::to_string(i))), i);
@@ -55,7 +45,7 @@ TEST(TagTable, FullTableTakesNoMoreAndFindsEveryName)
 TEST(TagTable, ClearedTableIsAsNew)
 {
     TagTable table;
-    TagRecord record = named("A");
+    TagRecord record = tagOf("A");
     record.type = TagType::String;
     table.append(record);
     table.clear();
@@ -69,11 +59,11 @@ TEST(TagTable, ClearedTableHasForgottenEveryNameAlsoThoseOfSeveralRecords)
 {
     TagTable table;
     for (int i = 0; i < tagCapacity; ++i)
-        ASSERT_TRUE(table.append(named(std::to_string(i % 1000 * 7))));
+        ASSERT_TRUE(table.append(tagOf(std::to_string(i % 1000 * 7))));
     table.clear();
     for (int i = 0; i < 7000; ++i)
         ASSERT_EQ(table.find(InternedText(std::to_string(i))), std::nullopt) << i;
     EXPECT_EQ(table.find(InternedText()), 0);
-    table.append(named("7"));
+    table.append(tagOf("7"));
     EXPECT_EQ(table.find(InternedText("7")), 0);
 }

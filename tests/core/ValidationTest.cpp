@@ -1,5 +1,7 @@
 #include "map/Validation.h"
 
+#include "tests/core/TagBuilder.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -8,16 +10,6 @@ namespace
 class Validation : public testing::Test
 {
 protected:
-    void addTag(std::string_view name, TagType type, std::uint8_t size = 0, std::int32_t elements = 1)
-    {
-        TagRecord tag;
-        tag.name = InternedText(name);
-        tag.type = type;
-        tag.size = size;
-        tag.elements = elements;
-        tags.append(tag);
-    }
-
     static RegisterEntry entry(std::string_view tagname, DataType type, std::uint32_t count = 1)
     {
         RegisterEntry result;
@@ -44,8 +36,8 @@ protected:
 
 TEST_F(Validation, TagIsFoundByItsExactName)
 {
-    addTag("Other", TagType::Integer);
-    addTag("Tank1Level", TagType::Integer);
+    tags.append(tagOf("Other", TagType::Integer));
+    tags.append(tagOf("Tank1Level", TagType::Integer));
     EXPECT_EQ(validated(entry("Tank1Level", DataType::Int16)).tagIndex, 1);
     for (const char* name : {"tank1level", "Tank1Leve", "Tank1Level ", "Tank1Level.1"})
         EXPECT_EQ(validated(entry(name, DataType::Int16)).tagIndex, -1) << name;
@@ -53,9 +45,9 @@ TEST_F(Validation, TagIsFoundByItsExactName)
 
 TEST_F(Validation, FirstOfEqualTagsIsTaken)
 {
-    addTag("Other", TagType::Integer);
-    addTag("Twice", TagType::String, 2);
-    addTag("Twice", TagType::Integer);
+    tags.append(tagOf("Other", TagType::Integer));
+    tags.append(tagOf("Twice", TagType::String, 2));
+    tags.append(tagOf("Twice", TagType::Integer));
     EXPECT_EQ(validated(entry("Twice", DataType::String)).tagIndex, 1);
     EXPECT_TRUE(map.slots(RegisterSpace::Holding)[0].typeValid);
 }
@@ -63,7 +55,7 @@ TEST_F(Validation, FirstOfEqualTagsIsTaken)
 TEST_F(Validation, LastTagOfAFullTableIsFound)
 {
     for (int i = 0; i < tagCapacity; ++i)
-        addTag("T" + std::to_string(i), TagType::Integer);
+        tags.append(tagOf("T" + std::to_string(i), TagType::Integer));
     EXPECT_EQ(validated(entry("T65535", DataType::Int16)).tagIndex, 65535);
 }
 
@@ -82,7 +74,7 @@ TEST_F(Validation, UnknownTagLeavesTypeAndWriteValid)
 
 TEST_F(Validation, MarksOfTheLastTimeAreForgotten)
 {
-    addTag("Tank1Level", TagType::Integer, 0, 2);
+    tags.append(tagOf("Tank1Level", TagType::Integer, 0, 2));
     RegisterEntry object = entry("Tank1Level", DataType::Int16);
     object.write = true;
     object.typeValid = false;
@@ -95,10 +87,10 @@ TEST_F(Validation, MarksOfTheLastTimeAreForgotten)
 
 TEST_F(Validation, StringTagNeedsAStringLongEnough)
 {
-    addTag("Six", TagType::String, 6);
-    addTag("Seven", TagType::String, 7);
-    addTag("Nothing", TagType::String, 0);
-    addTag("Longest", TagType::String, 255);
+    tags.append(tagOf("Six", TagType::String, 6));
+    tags.append(tagOf("Seven", TagType::String, 7));
+    tags.append(tagOf("Nothing", TagType::String, 0));
+    tags.append(tagOf("Longest", TagType::String, 255));
     EXPECT_TRUE(validated(entry("Six", DataType::String, 3)).typeValid);
     EXPECT_TRUE(validated(entry("Six", DataType::String, 4)).typeValid);
     EXPECT_FALSE(validated(entry("Six", DataType::String, 2)).typeValid);
@@ -111,13 +103,13 @@ TEST_F(Validation, StringTagNeedsAStringLongEnough)
 
 TEST_F(Validation, LongestStringIsLongEnough)
 {
-    addTag("Longest", TagType::String, 255);
+    tags.append(tagOf("Longest", TagType::String, 255));
     EXPECT_TRUE(validated(entry("Longest", DataType::String, 2147483647)).typeValid);
 }
 
 TEST_F(Validation, StringTagIsNoNumber)
 {
-    addTag("Name", TagType::String, 1);
+    tags.append(tagOf("Name", TagType::String, 1));
     for (const DataType type : {DataType::Int16, DataType::Int32, DataType::Float, DataType::Double})
         EXPECT_FALSE(validated(entry("Name", type, 4)).typeValid) << typeName(type);
     EXPECT_FALSE(validated(entry("Name", static_cast<DataType>(5), 4)).typeValid);
@@ -125,8 +117,8 @@ TEST_F(Validation, StringTagIsNoNumber)
 
 TEST_F(Validation, AnyNumberSuitsANumericTag)
 {
-    addTag("Whole", TagType::Integer, 200);
-    addTag("Real", TagType::Numeric, 200);
+    tags.append(tagOf("Whole", TagType::Integer, 200));
+    tags.append(tagOf("Real", TagType::Numeric, 200));
     for (const char* name : {"Whole", "Real"})
     {
         for (const DataType type : {DataType::Int16, DataType::Int32, DataType::Float, DataType::Double})
@@ -138,17 +130,17 @@ TEST_F(Validation, AnyNumberSuitsANumericTag)
 
 TEST_F(Validation, AnyTypeSuitsATagOfUnknownType)
 {
-    addTag("Odd", static_cast<TagType>(3), 200);
+    tags.append(tagOf("Odd", static_cast<TagType>(3), 200));
     for (const DataType type : allDataTypes)
         EXPECT_TRUE(validated(entry("Odd", type)).typeValid) << typeName(type);
 }
 
 TEST_F(Validation, WriteNeedsTwoElements)
 {
-    addTag("None", TagType::Integer, 0, 0);
-    addTag("One", TagType::Integer, 0, 1);
-    addTag("Two", TagType::Integer, 0, 2);
-    addTag("Negative", TagType::Integer, 0, -2147483647);
+    tags.append(tagOf("None", TagType::Integer, 0, 0));
+    tags.append(tagOf("One", TagType::Integer, 0, 1));
+    tags.append(tagOf("Two", TagType::Integer, 0, 2));
+    tags.append(tagOf("Negative", TagType::Integer, 0, -2147483647));
     for (const auto& [name, valid] :
          {std::pair("None", false), std::pair("One", false), std::pair("Two", true), std::pair("Negative", false)})
     {
@@ -162,7 +154,7 @@ TEST_F(Validation, WriteNeedsTwoElements)
 
 TEST_F(Validation, BadTypeAndBadWriteAreIndependent)
 {
-    addTag("Name", TagType::String, 2, 1);
+    tags.append(tagOf("Name", TagType::String, 2, 1));
     RegisterEntry object = entry("Name", DataType::Int16);
     object.write = true;
     const RegisterEntry& slot = validated(object);
@@ -172,8 +164,8 @@ TEST_F(Validation, BadTypeAndBadWriteAreIndependent)
 
 TEST_F(Validation, EmptyTagnameMeetsTheFirstUnusedRecord)
 {
-    addTag("A", TagType::String, 2);
-    addTag("B", TagType::String, 2);
+    tags.append(tagOf("A", TagType::String, 2));
+    tags.append(tagOf("B", TagType::String, 2));
     EXPECT_EQ(validated(entry("", DataType::Int16)).tagIndex, 2);
     EXPECT_TRUE(map.slots(RegisterSpace::Holding)[0].typeValid);
     EXPECT_FALSE(validated(entry("", DataType::String)).typeValid);
@@ -184,9 +176,9 @@ TEST_F(Validation, EmptyTagnameMeetsTheFirstUnusedRecord)
 
 TEST_F(Validation, EmptyTagnameMeetsATagOfThatName)
 {
-    addTag("A", TagType::Integer);
-    addTag("", TagType::String, 2);
-    addTag("B", TagType::Integer);
+    tags.append(tagOf("A", TagType::Integer));
+    tags.append(tagOf("", TagType::String, 2));
+    tags.append(tagOf("B", TagType::Integer));
     EXPECT_EQ(validated(entry("", DataType::String)).tagIndex, 1);
     EXPECT_TRUE(map.slots(RegisterSpace::Holding)[0].typeValid);
 }
@@ -194,13 +186,13 @@ TEST_F(Validation, EmptyTagnameMeetsATagOfThatName)
 TEST_F(Validation, EmptyTagnameMeetsNothingInAFullTable)
 {
     for (int i = 0; i < tagCapacity; ++i)
-        addTag("T" + std::to_string(i), TagType::Integer);
+        tags.append(tagOf("T" + std::to_string(i), TagType::Integer));
     EXPECT_EQ(validated(entry("", DataType::Int16)).tagIndex, -1);
 }
 
 TEST_F(Validation, EverySlotOfEverySpaceIsLookedAt)
 {
-    addTag("A", TagType::Integer);
+    tags.append(tagOf("A", TagType::Integer));
     for (const RegisterSpace space : allSpaces)
     {
         map.placeObject(space, 0, entry("A", DataType::Double, 4), 4);
@@ -217,8 +209,8 @@ TEST_F(Validation, EverySlotOfEverySpaceIsLookedAt)
 
 TEST_F(Validation, NeighboursOfOtherNamesGetTheirOwnTags)
 {
-    addTag("A", TagType::Integer);
-    addTag("B", TagType::Integer);
+    tags.append(tagOf("A", TagType::Integer));
+    tags.append(tagOf("B", TagType::Integer));
     RegisterSlots& slots = map.slots(RegisterSpace::Coil);
     for (const auto& [address, name] : {std::pair(0, "A"), std::pair(1, "B"), std::pair(2, "C"), std::pair(3, "A"),
                                         std::pair(4, ""), std::pair(5, "A")})
@@ -234,7 +226,7 @@ TEST_F(Validation, NeighboursOfOtherNamesGetTheirOwnTags)
 
 TEST_F(Validation, OnlyTheThreeDerivedFieldsChange)
 {
-    addTag("Name", TagType::String, 2, 1);
+    tags.append(tagOf("Name", TagType::String, 2, 1));
     RegisterEntry object = entry("Name", DataType::Int16, 3);
     object.locked = true;
     object.write = true;
@@ -252,7 +244,7 @@ TEST_F(Validation, OnlyTheThreeDerivedFieldsChange)
 
 TEST_F(Validation, FreeSlotsAreLeftAlone)
 {
-    addTag("A", TagType::Integer);
+    tags.append(tagOf("A", TagType::Integer));
     RegisterEntry& slot = map.slots(RegisterSpace::Holding)[5];
     slot.tagname = InternedText("A");
     slot.typeValid = false;
@@ -266,8 +258,8 @@ TEST_F(Validation, FreeSlotsAreLeftAlone)
 
 TEST_F(Validation, TruncatedAndOverlappingObjectsAreNoErrors)
 {
-    addTag("A", TagType::Integer);
-    addTag("S", TagType::String, 10);
+    tags.append(tagOf("A", TagType::Integer));
+    tags.append(tagOf("S", TagType::String, 10));
     map.placeObject(RegisterSpace::Coil, 65535, entry("S", DataType::String, 5), 5);
     map.placeObject(RegisterSpace::Holding, 10, entry("A", DataType::Double, 4), 4);
     map.placeObject(RegisterSpace::Holding, 12, entry("A", DataType::Double, 4), 4);
@@ -277,7 +269,7 @@ TEST_F(Validation, TruncatedAndOverlappingObjectsAreNoErrors)
 
 TEST_F(Validation, ErrorsAreCountedPerRegisterAndMark)
 {
-    addTag("Name", TagType::String, 2, 1);
+    tags.append(tagOf("Name", TagType::String, 2, 1));
     EXPECT_EQ(countErrors(map), 0);
     map.placeObject(RegisterSpace::Coil, 0, entry("Missing", DataType::Int32, 2), 2);
     validateMap(map, tags);
@@ -293,7 +285,7 @@ TEST_F(Validation, CountingLooksAtTheMarksAsTheyStand)
 {
     map.placeObject(RegisterSpace::Input, 0, entry("Missing", DataType::Int16), 1);
     validateMap(map, tags);
-    addTag("Missing", TagType::Integer);
+    tags.append(tagOf("Missing", TagType::Integer));
     EXPECT_EQ(countErrors(map), 1);
     map.slots(RegisterSpace::Input)[0].tagname = InternedText("Other");
     EXPECT_EQ(countErrors(map), 1);

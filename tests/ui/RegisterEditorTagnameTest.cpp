@@ -1,6 +1,6 @@
 // The tagname of the register editor and the names that are offered for it.
 
-#include "tests/core/NamedTags.h"
+#include "tests/core/TagBuilder.h"
 #include "tests/ui/EditorUnderTest.h"
 #include "ui/ToolkitText.h"
 
