@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-/// The texts of a map whose lines give no length, so that without their database nobody knows how long they are.
+/// The texts of a map whose lines give no length and whose tags are not known either: nobody knows how long they are.
 class UnsizedTexts
 {
 public:

@@ -27,13 +27,11 @@ std::optional<ChangeReport> compare(const std::string& before, const std::string
     RegisterMap newMap;
     UnsizedTexts oldUnsized;
     UnsizedTexts newUnsized;
-    const bool sized = !options.databasePath.empty();
-    if (!readDatabase(options.databasePath, database) ||
-        !readMap(before, database.tags, oldMap, sized ? nullptr : &oldUnsized) ||
-        !readMap(after, database.tags, newMap, sized ? nullptr : &newUnsized))
+    if (!readDatabase(options.databasePath, database) || !readMap(before, database.tags, oldMap, oldUnsized) ||
+        !readMap(after, database.tags, newMap, newUnsized))
         return std::nullopt;
     if (!options.git && !options.quiet && !(oldUnsized.isEmpty() && newUnsized.isEmpty()))
-        tell("there are texts whose lines give no length; with --json their sizes are compared, too");
+        tellUnsized(options.databasePath, "sizes not compared");
     return ChangeReport{shownPath(before), shownPath(after), mapDifferences(oldMap, newMap, oldUnsized, newUnsized)};
 }
 

@@ -77,8 +77,11 @@ ExitCode exportTo(const ExportOptions& options)
         return refuse(options, "is read from and not written over");
     TagDatabase database;
     RegisterMap map;
-    if (!readDatabase(options.databasePath, database) || !readMap(options.mapPath, database.tags, map))
+    UnsizedTexts unsized;
+    if (!readDatabase(options.databasePath, database) || !readMap(options.mapPath, database.tags, map, unsized))
         return ExitCode::Failed;
+    if (!unsized.isEmpty())
+        tellUnsized(options.databasePath, "written with one register");
     const std::string text = isCsv(options) ? exportCsv(map) : exportTextReport(map);
     return options.outputPath == standardStream ? put(text, ExitCode::Success) : writeTo(options, text);
 }

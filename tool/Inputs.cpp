@@ -27,13 +27,12 @@ std::optional<std::string> cannotRead(const std::string& path, const std::string
     return std::nullopt;
 }
 
+/// The last line that begins at an address says whether the length of what is there is known.
 void noteLength(const DefinitionFileLine& line, UnsizedTexts& unsized)
 {
-    constexpr std::size_t formWithoutCount = 6;
     const auto* const object = std::get_if<DefinitionObject>(&line.meaning);
     if (object != nullptr && RegisterSlots::contains(object->start))
-        unsized.set(object->space, object->start,
-                    object->type == DataType::String && line.fieldCount == formWithoutCount);
+        unsized.set(object->space, object->start, line.isLengthGuessed);
 }
 
 } // namespace
@@ -85,7 +84,7 @@ bool readDatabase(const std::string& path, TagDatabase& database)
     return false;
 }
 
-bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts* unsized)
+bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts& unsized)
 {
     std::optional<std::string> bytes = readInput(path);
     if (!bytes)
@@ -97,11 +96,16 @@ bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, Un
                    {
                        if (!withoutLeadingBlanks(line.text).empty() && std::holds_alternative<LineFault>(line.meaning))
                            ++dropped;
-                       if (unsized != nullptr)
-                           noteLength(line, *unsized);
+                       noteLength(line, unsized);
                    });
     if (dropped > 0)
         tell(shownPath(path) + ": lines left out as the editor does: " + std::to_string(dropped) +
              "; tolvane-map check says why");
     return true;
+}
+
+void tellUnsized(const std::string& databasePath, std::string_view consequence)
+{
+    const std::string reason = databasePath.empty() ? "--json is not given" : "the database does not hold their tags";
+    tell("there are texts whose lines give no length, and " + reason + ": " + std::string(consequence));
 }

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// Reading what the command line names. What cannot be read is told on standard error.
 
@@ -22,6 +23,11 @@ std::string shownPath(const std::string& path);
 bool readDatabase(const std::string& path, TagDatabase& database);
 
 /// Reads a map as the editor does and tells how many lines it dropped.
-/// @param unsized  gets the texts whose length only a database would tell, when there is none; may be null
+/// @param unsized  gets the texts whose length neither their line nor the tags tell
 /// @return false when it cannot be read, which has then been told
-bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts* unsized = nullptr);
+bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts& unsized);
+
+/// Tells that the length of some texts is not known, and why.
+/// @param databasePath  empty for none
+/// @param consequence   what is done with them
+void tellUnsized(const std::string& databasePath, std::string_view consequence);

@@ -133,7 +133,7 @@ TEST_F(Diff, DoesNotCompareALengthThatNobodyKnowsAndSaysSo)
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.errors,
-              "tolvane-map: there are texts whose lines give no length; with --json their sizes are compared, too\n"
+              "tolvane-map: there are texts whose lines give no length, and --json is not given: sizes not compared\n"
               "tolvane-map: no object differs\n");
     EXPECT_EQ(diff(longForm, shortForm).output, "~ HOLDING 00001 T: lock taken off error: the object was locked\n");
     EXPECT_EQ(diff("", shortForm).output, "+ HOLDING 00001 T: added, STRING, of unknown length\n");
@@ -142,6 +142,17 @@ TEST_F(Diff, DoesNotCompareALengthThatNobodyKnowsAndSaysSo)
     EXPECT_EQ(diff(unlocked, shortForm + "HOLDING,00001,NONE,STRING,T,Text,5,UNLOCKED,OK\n").output,
               "~ HOLDING 00001 T: size 6 -> 5 [breaking]\n")
         << "the last line counts";
+}
+
+TEST_F(Diff, DoesNotCompareALengthThatTheDatabaseDoesNotKnow)
+{
+    folder.write("plant.json", R"({"structure":[{"lable":"P"}],"database":[{"Name":"U","Type":"String","Size":8}]})");
+    const ToolRun run = diff("HOLDING,1,NONE,STRING,T,Text\n", "HOLDING,00001,NONE,STRING,T,Text,6,UNLOCKED,OK\n",
+                             {"--json", "plant.json"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors, "tolvane-map: there are texts whose lines give no length, and the database does not hold "
+                          "their tags: sizes not compared\n"
+                          "tolvane-map: no object differs\n");
 }
 
 TEST_F(Diff, SaysThatLinesAreLeftOut)

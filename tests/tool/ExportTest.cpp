@@ -67,6 +67,17 @@ TEST_F(Export, SizesTextsByTheDatabaseThatItIsGiven)
               "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION\nHOLDING,00001,STRING,4,---,T,Text\n");
 }
 
+TEST_F(Export, SaysThatItDoesNotKnowTheLengthOfATextAndCountsOneRegister)
+{
+    folder.write("map.csv", "HOLDING,1,NONE,STRING,T,Text\n");
+    const ToolRun run = runTool({"export", "-m", "map.csv", "-o", "-", "--format", "csv"}, here());
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.output, "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDER,TAGNAME,DESCRIPTION\n"
+                          "HOLDING,00001,STRING,1,---,T,Text\n");
+    EXPECT_EQ(run.errors, "tolvane-map: there are texts whose lines give no length, and --json is not given: written "
+                          "with one register\n");
+}
+
 TEST_F(Export, NeverWritesOverWhatItReadsByWhateverName)
 {
     folder.write("plant.json", database);
