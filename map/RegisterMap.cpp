@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 // An object of four registers at 10, and the free slots beside it:
 //
@@ -14,7 +15,23 @@
 // address is what makes the four belong together: it leads from any of them to the head, where the object's registers
 // begin.
 
-RegisterMap::RegisterMap() : spaces(std::make_unique<Spaces>()), snapshot(std::make_unique<Spaces>(*spaces)) {}
+std::unique_ptr<RegisterMap::Spaces> RegisterMap::freeSpaces()
+{
+    // Otherwise all of it is filled with zeros before the slots are made: 12 MB.
+    return std::make_unique_for_overwrite<Spaces>();
+}
+
+RegisterMap::RegisterMap() : RegisterMap(freeSpaces(), freeSpaces()) {}
+
+RegisterMap::RegisterMap(std::unique_ptr<Spaces> slots, std::unique_ptr<Spaces> saved)
+    : spaces(std::move(slots)), snapshot(std::move(saved))
+{
+}
+
+RegisterMap RegisterMap::withoutSnapshot()
+{
+    return {freeSpaces(), nullptr};
+}
 
 void RegisterMap::initialise()
 {
@@ -66,11 +83,12 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
 void RegisterMap::takeSnapshot()
 {
     // The whole map twice, 25 MB: comparing is then one pass over memory, and no command has to keep a list of changes.
-    *snapshot = *spaces;
+    if (snapshot)
+        *snapshot = *spaces;
 }
 
 bool RegisterMap::isModified() const
 {
     // Slots have no padding and equal texts have one handle, so equal bytes are equal maps.
-    return std::memcmp(spaces.get(), snapshot.get(), sizeof(Spaces)) != 0;
+    return snapshot && std::memcmp(spaces.get(), snapshot.get(), sizeof(Spaces)) != 0;
 }

@@ -24,6 +24,10 @@ public:
     /// A map of free slots with a snapshot of free slots.
     RegisterMap();
 
+    /// A map of free slots for a program that reads and never edits. It has no snapshot, which saves half of the time
+    /// that making a map takes, and counts as never modified.
+    static RegisterMap withoutSnapshot();
+
     /// Frees every slot, shows Holding, empties the clipboard and the error count. View mode and snapshot stay.
     void initialise();
 
@@ -70,6 +74,10 @@ public:
 private:
     using Spaces = std::array<RegisterSlots, spaceCount>;
 
+    static std::unique_ptr<Spaces> freeSpaces();
+
+    RegisterMap(std::unique_ptr<Spaces> slots, std::unique_ptr<Spaces> saved);
+
     std::unique_ptr<Spaces> spaces;
-    std::unique_ptr<Spaces> snapshot;
+    std::unique_ptr<Spaces> snapshot; ///< null in a map without
 };

@@ -100,9 +100,9 @@ void appendFirstOutOfOrder(Findings& findings, const PlacedLines& lines)
     }
 }
 
-void appendEncoding(Findings& findings, std::string_view bytes, std::string_view text)
+void appendEncoding(Findings& findings, std::string_view text, bool isDecoded)
 {
-    if (bytes != text)
+    if (isDecoded)
         findings.push_back(encodingFinding(1, "saving writes UTF-8 without a byte-order mark"));
     int number = 0;
     bool found = false;

@@ -14,6 +14,6 @@ void appendOtherForms(Findings& findings, const PlacedLines& lines, const LineOw
 void appendFirstOutOfOrder(Findings& findings, const PlacedLines& lines);
 
 /// Appends a warning when saving writes other bytes for the same text: another encoding, other line ends.
-/// @param bytes  the file's own
-/// @param text   what they were decoded to
-void appendEncoding(Findings& findings, std::string_view bytes, std::string_view text);
+/// @param text       what the file's bytes were decoded to
+/// @param isDecoded  whether that are other bytes than the file's
+void appendEncoding(Findings& findings, std::string_view text, bool isDecoded);

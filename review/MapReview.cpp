@@ -10,10 +10,10 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <numeric>
 #include <tuple>
 #include <utility>
 #include <variant>
+#include <vector>
 
 namespace
 {
@@ -21,14 +21,17 @@ namespace
 /// What reading a file gave.
 struct ReadMap
 {
-    RegisterMap map;
+    RegisterMap map = RegisterMap::withoutSnapshot();
     PlacedLines lines;
     Findings findings; ///< what the lines show, each by itself
 };
 
 ReadMap readMap(std::string_view text, const TagTable& tags)
 {
+    // Growing bit by bit, the list of a large map would be copied over and over.
+    constexpr std::size_t usualLine = 64;
     ReadMap read;
+    read.lines.reserve(text.size() / usualLine);
     const auto take = [&](const DefinitionFileLine& line)
     {
         if (const auto* const fault = std::get_if<LineFault>(&line.meaning))
@@ -46,38 +49,44 @@ ReadMap readMap(std::string_view text, const TagTable& tags)
 /// The findings by line and rule; those of one line and rule as they are.
 Findings sorted(Findings findings)
 {
-    // Findings are large: each is moved once, when its place is known.
-    std::vector<std::size_t> order(findings.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::sort(order.begin(), order.end(),
-              [&](std::size_t one, std::size_t other)
-              {
-                  return std::tuple(findings[one].line, findings[one].rule, one) <
-                         std::tuple(findings[other].line, findings[other].rule, other);
-              });
+    // Findings are large and lie all over the memory: short keys are sorted in their place, and each finding is moved
+    // once.
+    using Key = std::tuple<int, Rule, std::size_t>;
+    std::vector<Key> keys;
+    keys.reserve(findings.size());
+    for (const Finding& finding : findings)
+        keys.emplace_back(finding.line, finding.rule, keys.size());
+    std::ranges::sort(keys);
     Findings inOrder;
     inOrder.reserve(findings.size());
-    for (const std::size_t i : order)
-        inOrder.push_back(std::move(findings[i]));
+    for (const auto& [line, rule, index] : keys)
+        inOrder.push_back(std::move(findings[index]));
     return inOrder;
 }
 
 /// Notes at the lines that something has been said about them.
 void noteFindings(PlacedLines& lines, const Findings& findings)
 {
+    if (lines.empty())
+        return;
+    std::vector<bool> mentioned(static_cast<std::size_t>(lines.back().number) + 1, false);
     for (const Finding& finding : findings)
     {
-        const auto line = std::ranges::lower_bound(lines, finding.line, {}, &PlacedLine::number);
-        if (line != lines.end() && line->number == finding.line)
-            line->hasFinding = true;
+        if (finding.line <= lines.back().number)
+            mentioned[static_cast<std::size_t>(finding.line)] = true;
     }
+    for (PlacedLine& line : lines)
+        line.hasFinding = mentioned[static_cast<std::size_t>(line.number)];
 }
 
 } // namespace
 
-Findings reviewMap(const std::string& bytes, const TagTable& tags)
+Findings reviewMap(std::string bytes, const TagTable& tags)
 {
-    const std::string text = decodeText(bytes);
+    // Without a mark, bytes that are no UTF-8 become more of them, and UTF-8 stays as it is.
+    const bool hasMark = hasByteOrderMark(bytes);
+    const std::size_t size = bytes.size();
+    const std::string text = decodeText(std::move(bytes));
     ReadMap read = readMap(text, tags);
     validateMap(read.map, tags);
     Findings findings = std::move(read.findings);
@@ -87,6 +96,6 @@ Findings reviewMap(const std::string& bytes, const TagTable& tags)
     noteFindings(read.lines, findings);
     appendOtherForms(findings, read.lines, owners, read.map);
     appendFirstOutOfOrder(findings, read.lines);
-    appendEncoding(findings, bytes, text);
+    appendEncoding(findings, text, hasMark || text.size() != size);
     return sorted(std::move(findings));
 }

@@ -59,24 +59,70 @@ void stripCommonEnds(std::string_view& one, std::string_view& other)
     other.remove_suffix(static_cast<std::size_t>(back));
 }
 
-/// Slips for the first characters of one text against each number of first characters of the other.
-using SlipRow = std::array<int, longestName + 1>;
+/// Slips for the first characters of one text against each number of first characters of the other, and one place more.
+using SlipRow = std::array<int, longestName + 2>;
 
-/// The next row from the last two; all characters count here, common ends are gone.
-void fillRow(SlipRow& row, const std::array<const SlipRow*, 2>& before, std::string_view one, std::string_view other,
-             std::size_t i)
+/// Counts slips row by row, one for each number of first characters of one text. More slips than the limit need not be
+/// told apart, and beyond so many places to the left and right of the diagonal there are always more: only the band
+/// between is filled, with "too many" at its ends.
+class SlipBand
 {
-    const SlipRow& last = *before[0];
-    row[0] = static_cast<int>(i);
-    for (std::size_t j = 1; j <= other.size(); ++j)
+public:
+    SlipBand(std::string_view oneText, std::string_view otherText, int slipLimit)
+        : one(oneText), other(otherText), limit(static_cast<std::size_t>(slipLimit)), tooMany(slipLimit + 1)
     {
-        const bool same = lowerCase(one[i - 1]) == lowerCase(other[j - 1]);
-        row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (same ? 0 : 1)});
-        if (i > 1 && j > 1 && lowerCase(one[i - 1]) == lowerCase(other[j - 2]) &&
-            lowerCase(one[i - 2]) == lowerCase(other[j - 1]))
-            row[j] = std::min(row[j], (*before[1])[j - 2] + 1);
+        const std::size_t end = std::min(limit, other.size());
+        std::iota(rows[0].begin(), rows[0].begin() + static_cast<std::ptrdiff_t>(end) + 1, 0);
+        rows[0][end + 1] = tooMany;
     }
-}
+
+    int count()
+    {
+        for (std::size_t i = 1; i <= one.size(); ++i)
+        {
+            if (fillRow(i) >= tooMany)
+                return tooMany;
+        }
+        return std::min(rows[one.size() % rows.size()][other.size()], tooMany);
+    }
+
+private:
+    /// Fills the next row from the last two; all characters count here, common ends are gone.
+    /// @return its least number
+    int fillRow(std::size_t i)
+    {
+        SlipRow& row = rows[i % rows.size()];
+        const std::size_t begin = i > limit ? i - limit : 1;
+        const std::size_t end = std::min(i + limit, other.size());
+        row[begin - 1] = begin == 1 ? static_cast<int>(i) : tooMany;
+        int least = row[begin - 1];
+        for (std::size_t j = begin; j <= end; ++j)
+        {
+            row[j] = slipsAt(i, j);
+            least = std::min(least, row[j]);
+        }
+        row[end + 1] = tooMany;
+        return least;
+    }
+
+    int slipsAt(std::size_t i, std::size_t j) const
+    {
+        const SlipRow& last = rows[(i - 1) % rows.size()];
+        const int changed = last[j - 1] + (same(i, j) ? 0 : 1);
+        const int oneMoreOrLess = std::min(last[j], rows[i % rows.size()][j - 1]) + 1;
+        const bool exchanged = i > 1 && j > 1 && same(i, j - 1) && same(i - 1, j);
+        const int least = std::min(changed, oneMoreOrLess);
+        return exchanged ? std::min(least, rows[(i - 2) % rows.size()][j - 2] + 1) : least;
+    }
+
+    bool same(std::size_t i, std::size_t j) const { return lowerCase(one[i - 1]) == lowerCase(other[j - 1]); }
+
+    std::string_view one;
+    std::string_view other;
+    std::size_t limit;
+    int tooMany;
+    std::array<SlipRow, 3> rows; ///< row i at i modulo 3
+};
 
 } // namespace
 
@@ -86,17 +132,7 @@ int slipsBetween(std::string_view one, std::string_view other, int limit)
     const std::size_t longer = std::max(one.size(), other.size());
     if (longer > longestName || longer - std::min(one.size(), other.size()) > static_cast<std::size_t>(limit))
         return limit + 1;
-    std::array<SlipRow, 3> rows;
-    std::iota(rows[0].begin(), rows[0].begin() + static_cast<std::ptrdiff_t>(other.size()) + 1, 0);
-    for (std::size_t i = 1; i <= one.size(); ++i)
-    {
-        SlipRow& row = rows[i % rows.size()];
-        fillRow(row, {&rows[(i + 2) % rows.size()], &rows[(i + 1) % rows.size()]}, one, other, i);
-        const auto end = row.begin() + static_cast<std::ptrdiff_t>(other.size()) + 1;
-        if (*std::min_element(row.begin(), end) > limit)
-            return limit + 1;
-    }
-    return std::min(rows[one.size() % rows.size()][other.size()], limit + 1);
+    return SlipBand(one, other, limit).count();
 }
 
 bool differInDigitsOnly(std::string_view one, std::string_view other)

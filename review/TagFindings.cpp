@@ -3,6 +3,7 @@
 #include "map/ErrorMarks.h"
 #include "review/NearestTag.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 
@@ -16,6 +17,8 @@ struct LineMarks
     int badType = 0;
     int badWrite = 0;
     std::int32_t tagIndex = -1;
+
+    bool any() const { return unknownTag + badType + badWrite > 0; }
 
     void count(const RegisterEntry& slot)
     {
@@ -115,6 +118,8 @@ void appendTagFindings(Findings& findings, const PlacedLines& lines, const LineO
 {
     const std::vector<LineMarks> marks = marksOfLines(lines.size(), owners, map);
     Suggestions suggestions(tags);
+    // Growing bit by bit, the findings of a map with another database would be copied over and over.
+    findings.reserve(findings.size() + static_cast<std::size_t>(std::ranges::count_if(marks, &LineMarks::any)));
     for (std::size_t i = 0; i < lines.size(); ++i)
     {
         if (lines[i].object.tagname.empty())

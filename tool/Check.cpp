@@ -42,10 +42,10 @@ ExitCode check(const CheckOptions& options)
     TagDatabase database;
     if (!readDatabase(options.databasePath, database))
         return ExitCode::Failed;
-    const std::optional<std::string> bytes = readInput(options.mapPath);
+    std::optional<std::string> bytes = readInput(options.mapPath);
     if (!bytes)
         return ExitCode::Failed;
-    const FindingReport report = reportOf(reviewMap(*bytes, database.tags), options);
+    const FindingReport report = reportOf(reviewMap(std::move(*bytes), database.tags), options);
     const ExitCode result = report.counts().errors > 0 ? ExitCode::Found : ExitCode::Success;
     if (options.quiet)
         return result;

@@ -12,26 +12,37 @@ std::string_view severityWord(Severity severity)
     return severity == Severity::Error ? "error" : "warning";
 }
 
-/// "SPACE ADDRESS TAGNAME: " as far as the line tells them.
-std::string objectName(const Finding& finding)
+/// Appends "SPACE ADDRESS TAGNAME: " as far as the line tells them.
+void appendObjectName(std::string& text, const Finding& finding)
 {
     if (finding.space.empty() || !finding.address)
-        return {};
-    std::string name = finding.space + ' ';
-    name += *finding.address < 0 ? std::to_string(*finding.address)
+        return;
+    appendPrintable(text, finding.space);
+    text += ' ';
+    text += *finding.address < 0 ? std::to_string(*finding.address)
                                  : addressText(static_cast<std::uint32_t>(*finding.address));
     if (!finding.tagname.empty())
-        name += ' ' + finding.tagname;
-    return name + ": ";
+    {
+        text += ' ';
+        appendPrintable(text, finding.tagname);
+    }
+    text += ": ";
 }
 
-void appendTextLine(std::string& text, const FindingReport& report, const Finding& finding, const Style& style)
+/// Appends a finding as one line.
+/// @param file  printable
+void appendTextLine(std::string& text, std::string_view file, const Finding& finding, Severity severity,
+                    const Style& style)
 {
-    const Severity severity = report.severity(finding);
-    style.append(text, Tone::Place, printable(report.file + ':' + std::to_string(finding.line) + ':'));
-    text += ' ' + printable(objectName(finding));
+    std::string place(file);
+    place += ':' + std::to_string(finding.line) + ':';
+    style.append(text, Tone::Place, place);
+    text += ' ';
+    appendObjectName(text, finding);
     style.append(text, severity == Severity::Error ? Tone::Error : Tone::Warning, severityWord(severity));
-    text += ": " + printable(finding.message) + " [";
+    text += ": ";
+    appendPrintable(text, finding.message);
+    text += " [";
     text += ruleName(finding.rule);
     text += ']';
     text += nativeLineEnd;
@@ -100,10 +111,11 @@ std::string findingsAsText(const FindingReport& report, const Style& style)
 {
     // Growing bit by bit, the text of a hundred thousand findings would be copied over and over.
     constexpr std::size_t usualLine = 128;
+    const std::string file = printable(report.file);
     std::string text;
     text.reserve(report.findings.size() * usualLine);
     for (const Finding& finding : report.findings)
-        appendTextLine(text, report, finding, style);
+        appendTextLine(text, file, finding, report.severity(finding), style);
     return text;
 }
 
@@ -127,13 +139,16 @@ std::string findingsAsJson(const FindingReport& report)
 
 std::string findingsForGitHub(const FindingReport& report)
 {
+    const std::string file = escapedForGitHub(printable(report.file), true);
     std::string text;
     for (const Finding& finding : report.findings)
     {
+        std::string message;
+        appendObjectName(message, finding);
+        appendPrintable(message, finding.message);
         text += "::" + std::string(severityWord(report.severity(finding)));
-        text += " file=" + escapedForGitHub(printable(report.file), true) + ",line=" + std::to_string(finding.line);
-        text += ",title=" + std::string(ruleName(finding.rule)) + "::";
-        text += escapedForGitHub(printable(objectName(finding) + finding.message), false);
+        text += " file=" + file + ",line=" + std::to_string(finding.line);
+        text += ",title=" + std::string(ruleName(finding.rule)) + "::" + escapedForGitHub(message, false);
         text += nativeLineEnd;
     }
     return text;

@@ -3,6 +3,7 @@
 #include "text/Utf8.h"
 #include "tool/Terminal.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -25,6 +26,14 @@ bool isCommand(char32_t codePoint)
     return among(0, 0x1F) || among(0x7F, 0x9F) || among(0x202A, 0x202E) || among(0x2066, 0x2069);
 }
 
+/// How many characters at the beginning of a text are ASCII and visible or a blank.
+std::size_t plainPart(std::string_view text)
+{
+    const auto isPlain = [](char c) { return c >= ' ' && c <= '~'; };
+    const auto end = std::ranges::find_if_not(text, isPlain);
+    return static_cast<std::size_t>(end - text.begin());
+}
+
 } // namespace
 
 Style Style::forOutput()
@@ -44,15 +53,25 @@ void Style::append(std::string& to, Tone tone, std::string_view text) const
 std::string printable(std::string_view text)
 {
     std::string shown;
-    shown.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();)
-    {
-        const Utf8Character character = characterAt(text, at);
-        if (!character.valid || isCommand(character.codePoint))
-            shown += '?';
-        else
-            shown += text.substr(at, character.length);
-        at += character.length;
-    }
+    appendPrintable(shown, text);
     return shown;
+}
+
+void appendPrintable(std::string& to, std::string_view text)
+{
+    while (true)
+    {
+        // Most texts are of this kind as a whole: looking at each character takes 20 ms of a report of 90,000 lines.
+        const std::size_t plain = plainPart(text);
+        to += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty())
+            return;
+        const Utf8Character character = characterAt(text, 0);
+        if (character.valid && !isCommand(character.codePoint))
+            to += text.substr(0, character.length);
+        else
+            to += '?';
+        text.remove_prefix(character.length);
+    }
 }

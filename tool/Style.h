@@ -33,3 +33,6 @@ private:
 /// The text with a "?" for each control character, each character that turns the direction of the text, and each byte
 /// that is no UTF-8: names come from files, and a line has to stay one line and must not command the terminal.
 std::string printable(std::string_view text);
+
+/// Appends the printable form of a text.
+void appendPrintable(std::string& to, std::string_view text);

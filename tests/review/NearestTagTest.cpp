@@ -1,7 +1,11 @@
 #include "review/NearestTag.h"
 
+#include "tests/core/Chance.h"
+#include "text/Characters.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace
@@ -27,6 +31,30 @@ std::string suggested(std::string_view name, std::initializer_list<std::string_v
     return index ? std::string(tags[*index].name.view()) : "none";
 }
 
+/// A short name of few letters, so that two of them are often near.
+std::string drawnName(Chance& chance)
+{
+    std::string name;
+    for (int left = chance.pick(0, 6); left > 0; --left)
+        name += chance.oneOf({'A', 'B', 'C', 'b'});
+    return name;
+}
+
+/// As one would write it down, without regard to time: what the last characters may have become, and all the rest.
+int slipsByDefinition(std::string_view one, std::string_view other)
+{
+    if (one.empty() || other.empty())
+        return static_cast<int>(std::max(one.size(), other.size()));
+    const auto without = [](std::string_view text, std::size_t last) { return text.substr(0, text.size() - last); };
+    const auto same = [](char a, char b) { return lowerCase(a) == lowerCase(b); };
+    int slips = slipsByDefinition(without(one, 1), without(other, 1)) + (same(one.back(), other.back()) ? 0 : 1);
+    slips =
+        std::min({slips, slipsByDefinition(without(one, 1), other) + 1, slipsByDefinition(one, without(other, 1)) + 1});
+    const bool areExchanged = one.size() > 1 && other.size() > 1 && same(one.back(), other[other.size() - 2]) &&
+                              same(one[one.size() - 2], other.back());
+    return areExchanged ? std::min(slips, slipsByDefinition(without(one, 2), without(other, 2)) + 1) : slips;
+}
+
 } // namespace
 
 TEST(NearestTag, CountsSlips)
@@ -47,6 +75,19 @@ TEST(NearestTag, StopsCountingBeyondTheLimit)
     EXPECT_EQ(slipsBetween("A", "ABCDEFG", 2), 3);
     EXPECT_EQ(slipsBetween(std::string(400, 'x'), std::string(400, 'y'), 3), 4);
     EXPECT_EQ(slipsBetween(std::string(400, 'x') + "a", std::string(400, 'x') + "b", 3), 1);
+}
+
+TEST(NearestTag, CountsTheSlipsOfAnyTextsAsTheirDefinitionDoes)
+{
+    Chance chance(14);
+    for (int round = 0; round < 2000; ++round)
+    {
+        const std::string one = drawnName(chance);
+        const std::string other = drawnName(chance);
+        for (int limit = 0; limit <= 4; ++limit)
+            ASSERT_EQ(slipsBetween(one, other, limit), std::min(slipsByDefinition(one, other), limit + 1))
+                << one << ' ' << other << ' ' << limit;
+    }
 }
 
 TEST(NearestTag, SuggestsTheNameWithTheFewestSlips)
