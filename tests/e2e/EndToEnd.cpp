@@ -1,35 +1,11 @@
 #include "tests/e2e/EndToEnd.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
-
-namespace
-{
-
-fs::path newFolder()
-{
-    std::string name = (fs::temp_directory_path() / "end-to-end-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        throw std::runtime_error("no temporary folder");
-    return name;
-}
-
-} // namespace
-
-EndToEnd::EndToEnd() : folder(newFolder()) {}
-
-EndToEnd::~EndToEnd()
-{
-    running.reset();
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
-}
 
 void EndToEnd::TearDown()
 {
@@ -75,13 +51,6 @@ void EndToEnd::leaveAnswering(const std::string& answer)
     const Control question = running->waitForMessage("Save changes ?", "Confirmation");
     running->clickButton(question, answer);
     EXPECT_EQ(running->waitForExit(), 0);
-}
-
-fs::path EndToEnd::write(const std::string& name, std::string_view text) const
-{
-    fs::path path = folder / name;
-    std::ofstream(path, std::ios::binary) << text;
-    return path;
 }
 
 std::string contentOf(const fs::path& path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/core/TempFolder.h"
 #include "tests/e2e/ProgramUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +16,6 @@
 class EndToEnd : public testing::Test
 {
 protected:
-    EndToEnd();
-    ~EndToEnd() override;
     void TearDown() override;
 
     /// Starts the program without waiting for it.
@@ -35,9 +34,16 @@ protected:
     void leaveAnswering(const std::string& answer);
 
     /// Puts a file into the test's folder.
-    std::filesystem::path write(const std::string& name, std::string_view text) const;
+    std::filesystem::path write(const std::string& name, std::string_view text) const
+    {
+        return ownFolder.write(name, text);
+    }
 
-    std::filesystem::path folder;
+private:
+    TempFolder ownFolder;
+
+protected:
+    const std::filesystem::path folder = ownFolder.path();
     PrivateScreen screen;
 
 private:

@@ -3,17 +3,10 @@
 #include "tests/e2e/Patience.h"
 #include "tests/e2e/SmallPlant.h"
 
-#include <linux/capability.h>
-#include <sys/prctl.h>
-
 namespace fs = std::filesystem;
 
 namespace
 {
-
-constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
-                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
-constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
 
 constexpr const char* firstTag = "HOLDING,00000,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n";
 constexpr const char* saveTitle = "Save map definition file";
@@ -21,15 +14,6 @@ constexpr const char* saveTitle = "Save map definition file";
 class Leaving : public SmallPlant
 {
 protected:
-    void deleteFirstRow(ProgramUnderTest& program)
-    {
-        GridOnScreen grid = program.mapGrid();
-        const int rows = grid.filledRows();
-        grid.select(0);
-        screen.pressKey("Delete");
-        ASSERT_TRUE(waitFor([&] { return grid.filledRows() == rows - 1; }));
-    }
-
     /// Copies the database's first tag into an empty map.
     static void appendFirstTag(ProgramUnderTest& program)
     {
@@ -40,12 +24,6 @@ protected:
         ASSERT_TRUE(waitFor([&] { return program.mapGrid().filledRows() == 1; }));
     }
 };
-
-/// Makes programs that this one starts as powerless against write protection as they are for everyone but root.
-void obeyWriteProtection()
-{
-    prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0);
-}
 
 } // namespace
 

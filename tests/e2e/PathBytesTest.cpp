@@ -1,6 +1,5 @@
 // A path is the bytes that the system gave: the file of exactly that name is opened and saved.
 
-#include "tests/e2e/Patience.h"
 #include "tests/e2e/SmallPlant.h"
 
 #include <cstdlib>
@@ -9,10 +8,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-
-constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
-                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
-constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
 
 class PathBytes : public SmallPlant
 {
@@ -25,11 +20,8 @@ protected:
         const fs::path file = write("map" + bytes + ".csv", twoObjects);
         ProgramUnderTest& program = open(tags, file);
         EXPECT_EQ(program.tagGrid().filledRows(), 6);
-        GridOnScreen grid = program.mapGrid();
-        ASSERT_EQ(grid.filledRows(), 2);
-        grid.select(0);
-        screen.pressKey("Delete");
-        ASSERT_TRUE(waitFor([&] { return grid.filledRows() == 1; }));
+        ASSERT_EQ(program.mapGrid().filledRows(), 2);
+        deleteFirstRow(program);
         leaveAnswering("Yes");
         EXPECT_EQ(contentOf(file), secondObject);
         EXPECT_EQ(filesInFolder(), 4) << "a file of another name was made";

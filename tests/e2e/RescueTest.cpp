@@ -1,20 +1,13 @@
 // Changes that are on no disk when the program ends are kept in the user's state folder.
 
-#include "tests/e2e/Patience.h"
 #include "tests/e2e/SmallPlant.h"
 
 #include <csignal>
-#include <linux/capability.h>
-#include <sys/prctl.h>
 
 namespace fs = std::filesystem;
 
 namespace
 {
-
-constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
-                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
-constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
 
 constexpr int signalOffset = 128;
 
@@ -25,10 +18,7 @@ protected:
     ProgramUnderTest& openAndChange()
     {
         ProgramUnderTest& program = openMap(twoObjects);
-        GridOnScreen grid = program.mapGrid();
-        grid.select(0);
-        screen.pressKey("Delete");
-        EXPECT_TRUE(waitFor([&] { return grid.filledRows() == 1; }));
+        deleteFirstRow(program);
         return program;
     }
 
@@ -107,8 +97,7 @@ TEST_F(Rescue, KeepsWhatIsUnsavedWhenTheScreenGoes)
 
 TEST_F(Rescue, KeepsWhatCannotBeSaved)
 {
-    // Root may write to write-protected files; the program is started without that power.
-    prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0);
+    obeyWriteProtection();
     ProgramUnderTest& program = openAndChange();
     fs::permissions(map, fs::perms::owner_read);
     leaveAnswering("Yes");

@@ -1,5 +1,10 @@
 #include "tests/e2e/SmallPlant.h"
 
+#include "tests/e2e/Patience.h"
+
+#include <linux/capability.h>
+#include <sys/prctl.h>
+
 namespace
 {
 
@@ -25,4 +30,18 @@ ProgramUnderTest& SmallPlant::openMap(std::string_view lines, const std::vector<
 {
     write("map.csv", lines);
     return open(database, map, furtherArguments);
+}
+
+void SmallPlant::deleteFirstRow(ProgramUnderTest& program)
+{
+    GridOnScreen grid = program.mapGrid();
+    const int rows = grid.filledRows();
+    grid.select(0);
+    screen.pressKey("Delete");
+    ASSERT_TRUE(waitFor([&] { return grid.filledRows() == rows - 1; }));
+}
+
+void SmallPlant::obeyWriteProtection()
+{
+    prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE, 0, 0, 0);
 }

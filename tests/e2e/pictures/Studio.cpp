@@ -13,14 +13,6 @@ namespace fs = std::filesystem;
 namespace
 {
 
-fs::path newFolder()
-{
-    std::string name = (fs::temp_directory_path() / "guide-pictures-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        throw std::runtime_error("no temporary folder");
-    return name;
-}
-
 /// Lets the toolkit paint nothing that moves, and in the scale of the pictures.
 void prepareToolkit(const fs::path& home)
 {
@@ -45,27 +37,19 @@ std::string sampleLines(const std::string& beginning)
 
 } // namespace
 
-Studio::Studio(fs::path itsPictures) : pictures(std::move(itsPictures)), folder(newFolder())
+Studio::Studio(fs::path itsPictures) : pictures(std::move(itsPictures))
 {
-    prepareToolkit(folder);
-}
-
-Studio::~Studio()
-{
-    program.reset();
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
+    prepareToolkit(folder.path());
 }
 
 ProgramUnderTest& Studio::open(const std::string& map, const std::vector<std::string>& furtherArguments)
 {
     program.reset();
-    const fs::path file = folder / "map.csv";
-    std::ofstream(file) << map;
+    const fs::path file = folder.write("map.csv", map);
     std::vector<std::string> arguments{"--json", (fs::path(SAMPLES) / "waterworks.json").string(), "--modbus",
                                        file.string()};
     arguments.insert(arguments.end(), furtherArguments.begin(), furtherArguments.end());
-    program = std::make_unique<ProgramUnderTest>(screen, folder, arguments);
+    program = std::make_unique<ProgramUnderTest>(screen, folder.path(), arguments);
     program->waitForMainWindow();
     return *program;
 }

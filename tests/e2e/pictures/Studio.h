@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/core/TempFolder.h"
 #include "tests/e2e/PrivateScreen.h"
 #include "tests/e2e/ProgramUnderTest.h"
 
@@ -28,9 +29,6 @@ public:
 
     /// @param pictures  the folder that takes the finished pictures
     explicit Studio(std::filesystem::path pictures);
-    ~Studio();
-    Studio(const Studio&) = delete;
-    Studio& operator=(const Studio&) = delete;
 
     /// Starts the program on the sample map, in place of the one that ran before.
     /// @param linesBegin  only the objects whose lines in the sample begin so
@@ -81,7 +79,7 @@ private:
     std::filesystem::path newImageFile();
 
     std::filesystem::path pictures;
-    std::filesystem::path folder;
+    TempFolder folder;
     std::unique_ptr<ProgramUnderTest> program;
     int images = 0;
 };
