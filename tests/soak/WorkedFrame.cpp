@@ -1,5 +1,6 @@
 #include "tests/soak/WorkedFrame.h"
 
+#include "tests/ui/ControlsBelow.h"
 #include "ui/CommandTable.h"
 #include "ui/SourceBrowser.h"
 
@@ -14,32 +15,6 @@
 
 #include <functional>
 #include <vector>
-
-namespace
-{
-
-/// Adds every control of a class below a window, in the order in which they were made.
-template <class Control>
-void collectBelow(const wxWindow& parent, std::vector<Control*>& found)
-{
-    for (wxWindow* const child : parent.GetChildren())
-    {
-        if (auto* const control = dynamic_cast<Control*>(child))
-            found.push_back(control);
-        collectBelow(*child, found);
-    }
-}
-
-/// The first control of a class below a window, which has one.
-template <class Control>
-Control* firstBelow(const wxWindow& parent)
-{
-    std::vector<Control*> found;
-    collectBelow(parent, found);
-    return found.at(0);
-}
-
-} // namespace
 
 WorkedFrame::WorkedFrame(Document& shownDocument, FileChooser fileChooser)
     : MainFrame(shownDocument, "/suite/", std::move(fileChooser)), sourceSide(firstBelow<SourceBrowser>(*this)),
@@ -96,9 +71,7 @@ void WorkedFrame::press(wxGrid& grid, int key, bool controlDown)
 void WorkedFrame::pressMapButton(const wxString& tooltip)
 {
     const auto* const inTopBar = dynamic_cast<const wxWindow*>(topBar);
-    std::vector<wxBitmapButton*> buttons;
-    collectBelow(*inTopBar, buttons);
-    for (wxBitmapButton* const button : buttons)
+    for (wxBitmapButton* const button : controlsBelow<wxBitmapButton>(*inTopBar))
     {
         if (button->GetToolTipText() == tooltip)
             return pressButton(*button);
@@ -108,9 +81,7 @@ void WorkedFrame::pressMapButton(const wxString& tooltip)
 
 void WorkedFrame::pressButtonBelow(const wxWindow& side, const wxString& tooltip)
 {
-    std::vector<wxBitmapButton*> buttons;
-    collectBelow(side, buttons);
-    for (wxBitmapButton* const button : buttons)
+    for (wxBitmapButton* const button : controlsBelow<wxBitmapButton>(side))
     {
         if (button->GetToolTipText() == tooltip)
             return pressButton(*button);
@@ -128,8 +99,7 @@ void WorkedFrame::doubleClick(int row)
 
 void WorkedFrame::tickSomeGroup(Chance& chance)
 {
-    std::vector<wxCheckBox*> boxes;
-    collectBelow(*sourceSide, boxes);
+    const std::vector<wxCheckBox*> boxes = controlsBelow<wxCheckBox>(*sourceSide);
     if (boxes.empty())
         return;
     wxCheckBox& box = *boxes[static_cast<std::size_t>(chance.pick(0, static_cast<int>(boxes.size()) - 1))];

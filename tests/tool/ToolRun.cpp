@@ -41,9 +41,10 @@ ToolRun runShell(const std::string& command, const Surroundings& surroundings)
     const auto input = folder.write("input", surroundings.input);
     const std::string output = surroundings.outputFile.empty() ? (folder / "output").string() : surroundings.outputFile;
     // The language of whoever runs the tests decides neither what the system's commands say nor how they sort.
-    const std::string line = "unset NO_COLOR; export LC_ALL=C.UTF-8; " + assignments(surroundings.variables) + "cd " +
-                             shellWord(surroundings.folder) + " && { " + command + "; } <" + shellWord(input.string()) +
-                             " >" + shellWord(output) + " 2>" + shellWord((folder / "errors").string());
+    const std::string line = "unset NO_COLOR LANGUAGE; export LC_ALL=C.UTF-8; " + assignments(surroundings.variables) +
+                             "cd " + shellWord(surroundings.folder) + " && { " + command + "; } <" +
+                             shellWord(input.string()) + " >" + shellWord(output) + " 2>" +
+                             shellWord((folder / "errors").string());
     const int status = std::system(line.c_str()); // a test's own command
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
             surroundings.outputFile.empty() ? readFile(output).value_or("") : "",

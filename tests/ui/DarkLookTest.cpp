@@ -3,7 +3,6 @@
 #include "tests/ui/ScreenPicture.h"
 #include "tests/ui/SourceSide.h"
 #include "tests/ui/UiTest.h"
-#include "ui/SettingsDialog.h"
 
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
@@ -22,14 +21,14 @@ constexpr double visible = 3;
 double contrastOfBox(const wxCheckBox& box)
 {
     const int side = std::min(box.GetClientSize().GetWidth(), box.GetClientSize().GetHeight());
-    return ScreenPicture(box, wxRect(0, 0, side, side)).contrast();
+    return ScreenPicture(box, wxRect(0, 0, side, side)).contrastToGround();
 }
 
 /// The contrast of the left edge of a field, without its text and without its corners.
 double contrastOfEdge(const wxTextCtrl& field)
 {
     const wxSize size = field.GetClientSize();
-    return ScreenPicture(field, wxRect(0, size.y / 3, 5, size.y / 3)).contrast();
+    return ScreenPicture(field, wxRect(0, size.y / 3, 5, size.y / 3)).contrastToGround();
 }
 
 } // namespace
@@ -48,18 +47,6 @@ TEST(DarkLook, GroupCheckBoxIsSeenWhileItIsNotTicked)
     const wxCheckBox& box = *groupBox(editor, "SET");
     ASSERT_FALSE(box.IsChecked());
     EXPECT_TRUE(waitUntil([&] { return contrastOfBox(box) >= visible; })) << contrastOfBox(box);
-}
-
-TEST(DarkLook, CheckBoxOfADialogIsSeenWhileItIsNotTicked)
-{
-    SettingsDialog dialog(nullptr);
-    const wxCheckBox& box = *dialog.intSwapBytes;
-    runModal(dialog,
-             [&]
-             {
-                 EXPECT_TRUE(waitUntil([&] { return contrastOfBox(box) >= visible; })) << contrastOfBox(box);
-                 pressKey(WXK_ESCAPE);
-             });
 }
 
 TEST(DarkLook, FilterThatHasTheKeyboardHasAPlainEdge)

@@ -1,5 +1,6 @@
 #include "tests/ui/EditorWindow.h"
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
 #include "ui/OpenDocument.h"
@@ -37,39 +38,12 @@ constexpr std::string_view databaseText = R"({
   {"Name": "TANK_LEVEL", "Description": "Level", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 0},
   {"Name": "TANK_HIGH", "Description": "Level high", "Type": "Integer", "Size": 2, "Elements": 1, "Groups": 3}]})";
 
-void collectButtons(const wxWindow& window, const wxString& tooltip, std::vector<wxBitmapButton*>& found)
+/// The buttons below a window that have a tooltip.
+std::vector<wxBitmapButton*> buttonsCalled(const wxWindow& window, const wxString& tooltip)
 {
-    for (wxWindow* const child : window.GetChildren())
-    {
-        collectButtons(*child, tooltip, found);
-        auto* const button = dynamic_cast<wxBitmapButton*>(child);
-        if (button && button->GetToolTipText() == tooltip)
-            found.push_back(button);
-    }
-}
-
-/// A control of a kind below a window; none when there is none.
-template <typename Control>
-Control* findControl(const wxWindow& window)
-{
-    for (wxWindow* const child : window.GetChildren())
-    {
-        auto* const below = findControl<Control>(*child);
-        auto* const found = below ? below : dynamic_cast<Control*>(child);
-        if (found)
-            return found;
-    }
-    return nullptr;
-}
-
-/// The one control of a kind below a window.
-template <typename Control>
-Control* control(const wxWindow& window)
-{
-    auto* const found = findControl<Control>(window);
-    if (!found)
-        throw std::invalid_argument("no such control");
-    return found;
+    std::vector<wxBitmapButton*> buttons = controlsBelow<wxBitmapButton>(window);
+    std::erase_if(buttons, [&](const wxBitmapButton* button) { return button->GetToolTipText() != tooltip; });
+    return buttons;
 }
 
 } // namespace
@@ -83,16 +57,15 @@ EditorWindow::EditorWindow(const DocumentFiles& files)
     : ShownDocument(files),
       MainFrame(shown, "/suite/",
                 [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); }),
-      sourceBrowser(control<SourceBrowser>(*this)), sourceTree(control<wxTreeCtrl>(*sourceBrowser)),
-      sourceFilter(control<wxTextCtrl>(*sourceBrowser)), sourceGrid(control<wxGrid>(*sourceBrowser)),
-      groupFilters(control<wxScrolledWindow>(*sourceBrowser))
+      sourceBrowser(firstBelow<SourceBrowser>(*this)), sourceTree(firstBelow<wxTreeCtrl>(*sourceBrowser)),
+      sourceFilter(firstBelow<wxTextCtrl>(*sourceBrowser)), sourceGrid(firstBelow<wxGrid>(*sourceBrowser)),
+      groupFilters(firstBelow<wxScrolledWindow>(*sourceBrowser))
 {
 }
 
 wxBitmapButton* EditorWindow::button(const wxString& tooltip) const
 {
-    std::vector<wxBitmapButton*> found;
-    collectButtons(*this, tooltip, found);
+    const std::vector<wxBitmapButton*> found = buttonsCalled(*this, tooltip);
     if (found.empty())
         throw std::invalid_argument("no button \"" + modelText(tooltip) + "\"");
     return found.back();
@@ -100,9 +73,7 @@ wxBitmapButton* EditorWindow::button(const wxString& tooltip) const
 
 wxBitmapButton* EditorWindow::sourceCopyButton() const
 {
-    std::vector<wxBitmapButton*> found;
-    collectButtons(*sourceBrowser, "Copy - ctrl c", found);
-    return found.front();
+    return buttonsCalled(*sourceBrowser, "Copy - ctrl c").at(0);
 }
 
 std::string EditorWindow::cell(int row, int column) const

@@ -47,7 +47,7 @@ TEST(EmptyGridHint, ListWithoutAMatchSaysSo)
     const EditorWindow& editor = *openEditor(files.startup());
     typeOver(*editor.sourceFilter, "nothing");
     EXPECT_TRUE(waitUntil([&] { return showsLine(*editor.sourceGrid, "No tags match the filter"); }));
-    EXPECT_GE(pictureOf(*editor.sourceGrid).contrast(), readable);
+    EXPECT_GE(pictureOf(*editor.sourceGrid).contrastToGround(), readable);
 }
 
 TEST(EmptyGridHint, ListOfADatabaseWithoutTagsSaysSo)
@@ -64,7 +64,7 @@ TEST(EmptyGridHint, EmptyMapSaysHowTagsGetThere)
     EditorWindow& editor = *openEditor(files.startup());
     const wxString hint = "Copy tags with Ctrl+C, paste here with Ctrl+V";
     EXPECT_TRUE(waitUntil([&] { return showsLine(*editor.mapGrid, hint); }));
-    EXPECT_GE(pictureOf(*editor.mapGrid).contrast(), readable);
+    EXPECT_GE(pictureOf(*editor.mapGrid).contrastToGround(), readable);
     editor.nextView();
     editor.nextView();
     EXPECT_TRUE(waitUntil([&] { return !showsLine(*editor.mapGrid, hint); }));

@@ -1,5 +1,6 @@
 // The main window on small and on large screens: every button can be reached, and is all target.
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 
@@ -14,24 +15,6 @@
 
 namespace
 {
-
-void collectButtons(wxWindow& window, std::vector<wxBitmapButton*>& found)
-{
-    for (wxWindow* const child : window.GetChildren())
-    {
-        if (auto* const button = dynamic_cast<wxBitmapButton*>(child))
-            found.push_back(button);
-        else if (child)
-            collectButtons(*child, found);
-    }
-}
-
-std::vector<wxBitmapButton*> buttonsOf(wxWindow& window)
-{
-    std::vector<wxBitmapButton*> buttons;
-    collectButtons(window, buttons);
-    return buttons;
-}
 
 wxSplitterWindow& splitterOf(const EditorWindow& editor)
 {
@@ -54,7 +37,7 @@ bool isInside(const wxWindow& control, const wxWindow& parent)
 
 bool showsAllOf(EditorWindow& editor)
 {
-    const std::vector<wxBitmapButton*> buttons = buttonsOf(editor);
+    const std::vector<wxBitmapButton*> buttons = controlsBelow<wxBitmapButton>(editor);
     return buttons.size() == 25 &&
            std::all_of(buttons.begin(), buttons.end(),
                        [](const wxBitmapButton* button) { return isInside(*button, *button->GetParent()); });
@@ -64,7 +47,7 @@ bool showsAllOf(EditorWindow& editor)
 std::size_t rowsOfMapButtons(const EditorWindow& editor)
 {
     std::set<int> heights;
-    for (const wxBitmapButton* const button : buttonsOf(*editor.button("Toggle view")->GetParent()))
+    for (const wxBitmapButton* const button : controlsBelow<wxBitmapButton>(*editor.button("Toggle view")->GetParent()))
         heights.insert(button->GetPosition().y);
     return heights.size();
 }

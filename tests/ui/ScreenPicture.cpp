@@ -1,34 +1,39 @@
 #include "tests/ui/ScreenPicture.h"
 
+#include "tests/ui/Contrast.h"
+
 #include <gdk/gdk.h>
 #include <wx/window.h>
 
 #include <algorithm>
-#include <cmath>
+#include <functional>
+#include <numeric>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace
 {
 
-double linear(unsigned channel)
+Rgb colourOf(unsigned pixel)
 {
-    const double value = channel / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-}
-
-double luminance(unsigned pixel)
-{
-    return 0.2126 * linear(pixel >> 16) + 0.7152 * linear(pixel >> 8 & 0xFF) + 0.0722 * linear(pixel & 0xFF);
+    const auto part = [pixel](unsigned shift) { return static_cast<std::uint8_t>(pixel >> shift & 0xFFU); };
+    return {part(16), part(8), part(0)};
 }
 
 } // namespace
 
-ScreenPicture::ScreenPicture(const wxWindow& window, const wxRect& part) : width(part.width), height(part.height)
+ScreenPicture::ScreenPicture(const wxWindow& window) : ScreenPicture(window.GetScreenRect()) {}
+
+ScreenPicture::ScreenPicture(const wxWindow& window, const wxRect& part)
+    : ScreenPicture(wxRect(window.ClientToScreen(part.GetPosition()), part.GetSize()))
+{
+}
+
+ScreenPicture::ScreenPicture(const wxRect& place) : width(place.width), height(place.height)
 {
     // The toolkit's own picture of the screen (3.2 with GTK 3) stays empty.
-    const wxPoint corner = window.ClientToScreen(part.GetPosition());
     GdkPixbuf* const picture =
-        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), corner.x, corner.y, width, height);
+        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), place.x, place.y, width, height);
     const guchar* line = gdk_pixbuf_read_pixels(picture);
     for (int y = 0; y < height; ++y)
     {
@@ -66,14 +71,24 @@ wxRect ScreenPicture::inked() const
     return ink;
 }
 
-double ScreenPicture::contrast() const
+double ScreenPicture::contrastToGround() const
 {
-    const double paper = luminance(ground());
+    const Rgb paper = colourOf(ground());
     double highest = 1;
-    for (const Pixel pixel : pixels)
-    {
-        const double ink = luminance(pixel);
-        highest = std::max(highest, (std::max(ink, paper) + 0.05) / (std::min(ink, paper) + 0.05));
-    }
+    for (const Pixel pixel : std::unordered_set<Pixel>(pixels.begin(), pixels.end()))
+        highest = std::max(highest, contrast(colourOf(pixel), paper));
     return highest;
+}
+
+int ScreenPicture::pixelsApartFromCorner(double least) const
+{
+    const Rgb corner = colourOf(pixels.front());
+    const auto isApart = [&](Pixel pixel) { return contrast(colourOf(pixel), corner) >= least; };
+    return static_cast<int>(std::count_if(pixels.begin(), pixels.end(), isApart));
+}
+
+int ScreenPicture::pixelsApartFrom(const ScreenPicture& other, double least) const
+{
+    const auto isApart = [&](Pixel one, Pixel two) { return contrast(colourOf(one), colourOf(two)) >= least ? 1 : 0; };
+    return std::inner_product(pixels.begin(), pixels.end(), other.pixels.begin(), 0, std::plus<>(), isApart);
 }

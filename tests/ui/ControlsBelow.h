@@ -1,0 +1,31 @@
+#pragma once
+
+#include <wx/window.h>
+
+#include <stdexcept>
+#include <vector>
+
+/// Every control of a class below a window, in the order in which they were made.
+template <class Control>
+std::vector<Control*> controlsBelow(const wxWindow& parent)
+{
+    std::vector<Control*> found;
+    for (wxWindow* const child : parent.GetChildren())
+    {
+        if (auto* const control = dynamic_cast<Control*>(child))
+            found.push_back(control);
+        const std::vector<Control*> further = controlsBelow<Control>(*child);
+        found.insert(found.end(), further.begin(), further.end());
+    }
+    return found;
+}
+
+/// The first of them; throws std::invalid_argument where there is none.
+template <class Control>
+Control* firstBelow(const wxWindow& parent)
+{
+    const std::vector<Control*> found = controlsBelow<Control>(parent);
+    if (found.empty())
+        throw std::invalid_argument("no such control");
+    return found.front();
+}
