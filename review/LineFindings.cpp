@@ -2,6 +2,7 @@
 
 #include "map/PublishedName.h"
 #include "review/WordFindings.h"
+#include "review/Wording.h"
 #include "text/Characters.h"
 #include "text/Integers.h"
 
@@ -11,11 +12,6 @@
 namespace
 {
 
-std::string inQuotes(std::string_view text)
-{
-    return '"' + std::string(text) + '"';
-}
-
 constexpr std::string_view commaHint = "; is there a comma in the description?";
 
 std::string fieldCountMessage(const DefinitionFileLine& line)
@@ -23,9 +19,8 @@ std::string fieldCountMessage(const DefinitionFileLine& line)
     constexpr std::size_t fullForm = 9;
     if (line.fieldCount > fullForm)
         return "dropped: more than 9 fields; is there a comma in the tagname or description?";
-    std::string message = "dropped: " + std::to_string(line.fieldCount);
-    message += line.fieldCount == 1 ? " field" : " fields";
-    message += " where an object has 9, 7 or 6";
+    const std::string message =
+        "dropped: " + counted(static_cast<std::int64_t>(line.fieldCount), "field") + " where an object has 9, 7 or 6";
     // A comma too many makes eight of seven.
     constexpr std::size_t oneTooMany = 8;
     return line.fieldCount == oneTooMany ? message + "; is there a comma in the tagname or description?" : message;
@@ -56,27 +51,22 @@ bool isWholeNumber(std::string_view text)
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-void append(Findings& findings, const PlacedLine& placed, Rule rule, std::string message)
-{
-    Finding finding = findingAbout(placed, rule);
-    finding.message = std::move(message);
-    findings.push_back(std::move(finding));
-}
-
 void appendNumberFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
 {
     if (!isWholeNumber(line.fields.address))
-        append(findings, placed, Rule::BadNumber,
-               "the address " + inQuotes(line.fields.address) + " is read as " + std::to_string(placed.object.start));
+        appendFinding(findings, placed, Rule::BadNumber,
+                      "the address " + inQuotes(line.fields.address) + " is read as " +
+                          std::to_string(placed.object.start));
     constexpr std::size_t formWithCount = 7;
     if (line.fieldCount < formWithCount || isWholeNumber(line.fields.count))
         return;
     const std::string count = "the register count " + inQuotes(line.fields.count);
     if (placed.object.type == DataType::String)
-        append(findings, placed, Rule::BadNumber,
-               count + " is read as " + std::to_string(placed.object.count) + std::string(commaHint));
+        appendFinding(findings, placed, Rule::BadNumber,
+                      count + " is read as " + std::to_string(placed.object.count) + std::string(commaHint));
     else
-        append(findings, placed, Rule::IgnoredCount, count + " is no number and passed over" + std::string(commaHint));
+        appendFinding(findings, placed, Rule::IgnoredCount,
+                      count + " is no number and passed over" + std::string(commaHint));
 }
 
 /// Addresses of registers; one alone or first and last.
@@ -91,12 +81,13 @@ void appendCutOffFinding(Findings& findings, const PlacedLine& placed)
     const std::int64_t last = std::int64_t{object.start} + object.count - 1;
     if (object.start >= 0 && last <= lastAddress)
         return;
-    const std::string registers = "registers " + range(object.start, last);
+    const std::string registers = (object.count == 1 ? "register " : "registers ") + range(object.start, last);
     const bool anyInside = object.firstAddress() < object.endAddress();
-    append(findings, placed, Rule::CutOff,
-           anyInside ? "cut off: of " + registers + ", only " +
-                           range(object.firstAddress(), std::int64_t{object.endAddress()} - 1) + " lie in the space"
-                     : "cut off: " + registers + " lie outside 0 to 65535");
+    appendFinding(findings, placed, Rule::CutOff,
+                  anyInside
+                      ? "cut off: of " + registers + ", only " +
+                            range(object.firstAddress(), std::int64_t{object.endAddress()} - 1) + " lie in the space"
+                      : "cut off: " + registers + (object.count == 1 ? " lies" : " lie") + " outside 0 to 65535");
 }
 
 bool isBitSpace(RegisterSpace space)
@@ -115,6 +106,13 @@ Finding findingAbout(const PlacedLine& line, Rule rule)
     finding.address = line.object.start;
     finding.tagname = line.object.tagname;
     return finding;
+}
+
+void appendFinding(Findings& findings, const PlacedLine& line, Rule rule, std::string message)
+{
+    Finding finding = findingAbout(line, rule);
+    finding.message = std::move(message);
+    findings.push_back(std::move(finding));
 }
 
 Finding droppedLineFinding(const DefinitionFileLine& line, LineFault fault)
@@ -145,10 +143,10 @@ void appendLineFindings(Findings& findings, const DefinitionFileLine& line, cons
     appendNumberFindings(findings, line, placed);
     appendCutOffFinding(findings, placed);
     if (object.description.size() < line.fields.description.size())
-        append(findings, placed, Rule::Brace,
-               "the description is read up to its \"{\" only, as " + inQuotes(object.description));
+        appendFinding(findings, placed, Rule::Brace,
+                      "the description is read up to its \"{\" only, as " + inQuotes(object.description));
     appendWordFindings(findings, line, placed);
     if (isBitSpace(object.space) && object.type != DataType::Int16)
-        append(findings, placed, Rule::BitSpace,
-               "a " + std::string(typeName(object.type)) + " in a space of single bits");
+        appendFinding(findings, placed, Rule::BitSpace,
+                      "a " + std::string(typeName(object.type)) + " in a space of single bits");
 }

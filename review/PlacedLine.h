@@ -3,6 +3,7 @@
 #include "map/DefinitionLine.h"
 #include "review/Finding.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,3 +21,6 @@ using PlacedLines = std::vector<PlacedLine>;
 
 /// A finding about a placed line, with everything but the message filled in.
 Finding findingAbout(const PlacedLine& line, Rule rule);
+
+/// Appends a finding about a placed line.
+void appendFinding(Findings& findings, const PlacedLine& line, Rule rule, std::string message);

@@ -2,6 +2,7 @@
 
 #include "map/ErrorMarks.h"
 #include "review/NearestTag.h"
+#include "review/Wording.h"
 
 #include <algorithm>
 #include <string>
@@ -71,8 +72,8 @@ std::string badTypeMessage(const DefinitionObject& object, const TagRecord& tag)
         return "a STRING does not suit a tag that is a number";
     if (object.type != DataType::String)
         return type + " does not suit a tag that is a text";
-    return std::to_string(object.count) + (object.count == 1 ? " register" : " registers") + " for a tag of " +
-           std::to_string(tag.size) + " characters, which takes " + std::to_string(registersForString(tag.size));
+    return counted(object.count, "register") + " for a tag of " + counted(tag.size, "character") + ", which takes " +
+           std::to_string(registersForString(tag.size));
 }
 
 Finding markFinding(const PlacedLine& line, Rule rule, int marks, std::string message)
@@ -107,8 +108,8 @@ void appendMarksOf(Findings& findings, const PlacedLine& line, const LineMarks& 
         findings.push_back(markFinding(line, Rule::BadType, marks.badType, badTypeMessage(line.object, tag)));
     if (marks.badWrite > 0)
         findings.push_back(markFinding(line, Rule::BadWrite, marks.badWrite,
-                                       "the master may not write this tag: it has " + std::to_string(tag.elements) +
-                                           (tag.elements == 1 ? " element" : " elements") + " and needs 2"));
+                                       "the master may not write this tag: it has " + counted(tag.elements, "element") +
+                                           " and needs 2"));
 }
 
 } // namespace

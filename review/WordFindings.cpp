@@ -1,6 +1,7 @@
 #include "review/WordFindings.h"
 
 #include "review/OrderText.h"
+#include "review/Wording.h"
 
 #include <algorithm>
 #include <array>
@@ -10,18 +11,6 @@ namespace
 {
 
 constexpr std::array<std::string_view, 4> orderWords{"NONE", "BYTES", "WORDS", "LONGS"};
-
-std::string inQuotes(std::string_view text)
-{
-    return '"' + std::string(text) + '"';
-}
-
-void append(Findings& findings, const PlacedLine& placed, Rule rule, std::string message)
-{
-    Finding finding = findingAbout(placed, rule);
-    finding.message = std::move(message);
-    findings.push_back(std::move(finding));
-}
 
 /// The first word of a byte order that is none of the four; empty when there is none. Words are joined by "+" or
 /// blanks.
@@ -45,9 +34,9 @@ void appendOrderFinding(Findings& findings, const DefinitionFileLine& line, cons
 {
     const std::string_view word = unknownOrderWord(line.fields.order);
     if (!word.empty())
-        append(findings, placed, Rule::UnknownOrder,
-               inQuotes(word) + " is none of NONE, BYTES, WORDS, LONGS: the byte order " + inQuotes(line.fields.order) +
-                   " is read as " + orderText(placed.object));
+        appendFinding(findings, placed, Rule::UnknownOrder,
+                      inQuotes(word) + " is none of NONE, BYTES, WORDS, LONGS: the byte order " +
+                          inQuotes(line.fields.order) + " is read as " + orderText(placed.object));
 }
 
 } // namespace
@@ -56,11 +45,12 @@ void appendWordFindings(Findings& findings, const DefinitionFileLine& line, cons
 {
     const DefinitionObject& object = placed.object;
     if (typeName(object.type) != line.fields.type)
-        append(findings, placed, Rule::UnknownType,
-               "the type " + inQuotes(line.fields.type) + " is read as " + std::string(typeName(object.type)) + " of " +
-                   std::to_string(object.count) + (object.count == 1 ? " register" : " registers"));
+        appendFinding(findings, placed, Rule::UnknownType,
+                      "the type " + inQuotes(line.fields.type) + " is read as " + std::string(typeName(object.type)) +
+                          " of " + counted(object.count, "register"));
     appendOrderFinding(findings, line, placed);
     if (line.fields.lock != "LOCKED" && line.fields.lock != "UNLOCKED")
-        append(findings, placed, Rule::UnknownLock,
-               "the lock " + inQuotes(line.fields.lock) + " is read as " + (object.locked ? "LOCKED" : "UNLOCKED"));
+        appendFinding(findings, placed, Rule::UnknownLock,
+                      "the lock " + inQuotes(line.fields.lock) + " is read as " +
+                          (object.locked ? "LOCKED" : "UNLOCKED"));
 }

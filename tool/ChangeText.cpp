@@ -1,4 +1,5 @@
 #include "map/PublishedName.h"
+#include "review/Wording.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
 #include "tool/ChangeReport.h"
@@ -21,7 +22,7 @@ std::string lengthOf(const MapObject& object)
 {
     if (!object.sized)
         return "of unknown length";
-    return countOf(object) + (object.head.registerCount == 1 ? " register" : " registers");
+    return counted(static_cast<std::int32_t>(object.head.registerCount), "register");
 }
 
 std::string orderOf(const MapObject& object)
@@ -33,11 +34,6 @@ std::string orderOf(const MapObject& object)
 std::string fromTo(const std::string& before, const std::string& after)
 {
     return ' ' + before + " -> " + after;
-}
-
-std::string inQuotes(const MapObject& object)
-{
-    return '"' + std::string(object.head.description.view()) + '"';
 }
 
 /// What changed, from what to what.
@@ -64,7 +60,8 @@ std::string detail(const ObjectChange& change, ChangeKind kind)
     case ChangeKind::Write:
         return object.head.write ? " allowed" : " no longer allowed";
     case ChangeKind::Description:
-        return fromTo(inQuotes(*change.before), inQuotes(*change.after));
+        return fromTo(inQuotes(change.before->head.description.view()),
+                      inQuotes(change.after->head.description.view()));
     case ChangeKind::Lock:
         return object.head.locked ? " set" : " taken off";
     }
@@ -106,7 +103,7 @@ void appendChange(std::string& text, const ObjectChange& change, const Style& st
     text += nativeLineEnd;
 }
 
-std::string counted(int count, const std::string& words)
+std::string ifAny(int count, const std::string& words)
 {
     return count == 0 ? "" : ", " + std::to_string(count) + ' ' + words;
 }
@@ -149,8 +146,8 @@ std::string summary(const ChangeReport& report)
     if (report.changes.empty())
         return "no object differs";
     const ChangeCounts counts = countsOf(report);
-    std::string text = counted(counts.added, "added") + counted(counts.removed, "removed") +
-                       counted(counts.moved, "moved") + counted(counts.changed, "changed");
+    std::string text = ifAny(counts.added, "added") + ifAny(counts.removed, "removed") + ifAny(counts.moved, "moved") +
+                       ifAny(counts.changed, "changed");
     text.erase(0, 2); // the first comma
     return "objects that differ: " + text + "; breaking: " + std::to_string(counts.breaking) +
            "; were locked: " + std::to_string(counts.locked);

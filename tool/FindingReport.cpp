@@ -1,5 +1,6 @@
 #include "tool/FindingReport.h"
 
+#include "review/Wording.h"
 #include "text/Integers.h"
 #include "text/Lines.h"
 #include "tool/JsonText.h"
@@ -87,11 +88,6 @@ std::string escapedForGitHub(std::string_view text, bool isProperty)
         escaped += {'%', digits[byte / digits.size()], digits[byte % digits.size()]};
     }
     return escaped;
-}
-
-std::string counted(int count, const std::string& noun)
-{
-    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 } // namespace

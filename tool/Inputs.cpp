@@ -63,6 +63,10 @@ try
     appendRest(file, bytes);
     return bytes;
 }
+catch (const std::ios_base::failure& error)
+{
+    return cannotRead(path, error.code().message());
+}
 catch (const std::exception& error)
 {
     return cannotRead(path, error.what());

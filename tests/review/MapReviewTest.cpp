@@ -126,7 +126,7 @@ TEST(MapReview, FindsObjectsThatAreCutOffAtTheEndsOfTheSpace)
                       "HOLDING,65536,NONE,INT16,TANK_LEVEL,,1,UNLOCKED,OK"}),
               (Said{"1 cut-off: cut off: of registers -2 to 1, only 0 to 1 lie in the space",
                     "2 cut-off: cut off: of registers 65534 to 65537, only 65534 to 65535 lie in the space",
-                    "3 cut-off: cut off: registers 65536 lie outside 0 to 65535"}));
+                    "3 cut-off: cut off: register 65536 lies outside 0 to 65535"}));
 }
 
 TEST(MapReview, FindsOverlapsAndNamesBothLines)

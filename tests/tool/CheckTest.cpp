@@ -178,6 +178,9 @@ TEST_F(Check, EndsWithTwoWhenAFileCannotBeRead)
     const ToolRun folderAsMap = runTool({"check", "-d", "plant.json", "-m", "."}, here());
     EXPECT_EQ(folderAsMap.exitCode, 2);
     EXPECT_EQ(folderAsMap.errors, "tolvane-map: .: cannot be read: it is a folder\n");
+    const ToolRun failing = runTool({"check", "-d", "plant.json", "-m", "/proc/self/mem"}, here());
+    EXPECT_EQ(failing.exitCode, 2);
+    EXPECT_EQ(failing.errors, "tolvane-map: /proc/self/mem: cannot be read: Input/output error\n");
 }
 
 TEST_F(Check, EndsWithTwoWhenTheDatabaseIsNone)
