@@ -31,34 +31,80 @@ public:
     /// Puts the sash in the middle and gives the last columns their room; to be called once the window is shown.
     void settleLayout();
 
-    // Commands on the selected registers.
+    // Commands on the selected registers; each does nothing while none is selected.
+
+    /// Copies the selected objects into the program's clipboard.
     void copyRegisters();
+
+    /// Copies the selected objects and frees the registers of those that are not locked.
     void cutRegisters();
+
+    /// Inserts the clipboard in front of the selected object, or at address 0 of an empty list; says so when there is
+    /// no room for it.
     void pasteRegisters();
+
+    /// Inserts the clipboard at the first free register from the selected row on, or at address 0 of an empty list.
     void appendRegisters();
+
+    /// Frees the registers of the selected objects that are not locked, without a question.
     void deleteRegisters();
+
+    /// Moves the selected objects by one register and leaves them selected.
+    /// @param shoving  neighbours in the way are pushed along
     void moveRegisters(bool shoving, MoveDirection direction);
+
+    /// Closes the gaps between the first and the last selected register; says so when a lock stands against it.
     void compressRegisters();
+
+    /// Locks what is not locked and unlocks what is, and leaves it selected.
     void toggleLocks();
+
+    /// Asks for a text and another one to put in its place in the tagnames of the selected rows.
     void replaceInTagnames();
+
+    /// Lets the user edit the object of the one selected row; does nothing for a locked one and for several rows.
     void editRegister();
+
+    /// Selects every row of the map grid.
     void selectAllRegisters();
 
     // Commands on the tag grid.
+
+    /// Makes objects of the selected tags and puts them into the clipboard, which is empty when none is selected.
     void copySourceTags();
+
+    /// Selects every tag that is listed.
     void selectAllTags();
 
     // Commands on the view and on the whole map.
+
+    /// Shows another space from its first row on.
     void selectSpace(RegisterSpace space);
+
+    /// Goes on to the next of the three views.
     void toggleView();
+
+    /// Writes the name of the view where it is told.
     void showViewMode();
+
+    /// Deletes, once the user has agreed, what validation has marked as wrong in all four spaces.
     void deleteErrorRegisters();
 
     // Commands about the whole program.
+
+    /// Asks for a file and writes the map into it, as a table or as a report by the ending of its name.
     void exportMap();
+
+    /// Lets the user choose the byte order that objects made of tags start with.
     void editSettings();
+
+    /// Shows name, version and purpose of the program.
     void showAbout();
+
+    /// Asks for a document of the suite and opens it in the desktop's viewer.
     void showHelp();
+
+    /// Leaves the program, and saves a changed map before when the user wants it; stays when there is no answer.
     void exitAndSave();
 
 protected:
