@@ -92,8 +92,10 @@ Finding overlapFinding(const PlacedLine& line, const PlacedLine& earlier, const 
         finding.message = "same as line " + std::to_string(earlier.number);
         return finding;
     }
-    finding.message = "takes register " + addressText(static_cast<std::uint32_t>(taken.first));
-    if (taken.end - taken.first > 1)
+    const bool single = taken.end - taken.first == 1;
+    finding.message =
+        (single ? "takes register " : "takes registers ") + addressText(static_cast<std::uint32_t>(taken.first));
+    if (!single)
         finding.message += " to " + addressText(static_cast<std::uint32_t>(taken.end - 1));
     finding.message += " from ";
     finding.message += earlier.object.locked ? "the locked " : "";

@@ -49,8 +49,10 @@ void appendTextLine(std::string& text, std::string_view file, const Finding& fin
     text += nativeLineEnd;
 }
 
-void writeFinding(JsonText& json, const Finding& finding, Severity severity)
+/// A finding as an object in one line.
+std::string findingJson(const Finding& finding, Severity severity)
 {
+    JsonLine json;
     json.beginObject();
     json.member("line", finding.line);
     json.member("severity", severityWord(severity));
@@ -69,6 +71,7 @@ void writeFinding(JsonText& json, const Finding& finding, Severity severity)
     if (finding.marks > 0)
         json.member("marks", finding.marks);
     json.endObject();
+    return json.written();
 }
 
 /// Text inside a workflow command: line ends would end it, and inside a property so would colon and comma.
@@ -127,7 +130,7 @@ std::string findingsAsJson(const FindingReport& report)
     json.key("findings");
     json.beginArray();
     for (const Finding& finding : report.findings)
-        writeFinding(json, finding, report.severity(finding));
+        json.object(findingJson(finding, report.severity(finding)));
     json.endArray();
     json.endObject();
     return json.take();

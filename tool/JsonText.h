@@ -5,16 +5,17 @@
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
 
 #include <string>
 #include <string_view>
 
-/// Writes JSON for tools, indented so that people can read it too.
-class JsonText
+/// Writes JSON for tools.
+/// @tparam Writer  says how it is laid out
+template <class Writer>
+class BasicJsonText
 {
 public:
-    JsonText() { writer.SetIndent(' ', 1); }
-
     void beginObject() { writer.StartObject(); }
     void endObject() { writer.EndObject(); }
     void beginArray() { writer.StartArray(); }
@@ -50,12 +51,31 @@ public:
         boolean(value);
     }
 
-    /// What was written, with a line end after it.
-    std::string take() const { return std::string(buffer.GetString(), buffer.GetSize()) + std::string(nativeLineEnd); }
+    /// @param object  a whole object, as `written` gives it
+    void object(const std::string& object) { writer.RawValue(object.data(), lengthOf(object), rapidjson::kObjectType); }
+
+    /// What was written so far.
+    std::string written() const { return std::string(buffer.GetString(), buffer.GetSize()); }
+
+protected:
+    Writer& layout() { return writer; }
 
 private:
     static rapidjson::SizeType lengthOf(std::string_view text) { return static_cast<rapidjson::SizeType>(text.size()); }
 
     rapidjson::StringBuffer buffer;
-    rapidjson::PrettyWriter<rapidjson::StringBuffer> writer{buffer};
+    Writer writer{buffer};
+};
+
+/// JSON in one line, for objects that a tool is to find, and a person to see, line by line.
+using JsonLine = BasicJsonText<rapidjson::Writer<rapidjson::StringBuffer>>;
+
+/// A whole document, indented so that people can read it too.
+class JsonText : public BasicJsonText<rapidjson::PrettyWriter<rapidjson::StringBuffer>>
+{
+public:
+    JsonText() { layout().SetIndent(' ', 1); }
+
+    /// What was written, with a line end after it.
+    std::string take() const { return written() + std::string(nativeLineEnd); }
 };

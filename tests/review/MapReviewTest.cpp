@@ -158,9 +158,9 @@ TEST(MapReview, TellsAnOverlapOnceForEachEarlierLine)
     EXPECT_EQ(saidOf({"HOLDING,00100,NONE,DOUBLE,PUMP_SPEED,,4,UNLOCKED,OK",
                       "HOLDING,00101,NONE,FLOAT,TANK_LEVEL,,2,UNLOCKED,OK",
                       "HOLDING,00100,NONE,DOUBLE,TANK_LEVEL,,4,UNLOCKED,OK"}),
-              (Said{"2 overlap: takes register 00101 to 00102 from PUMP_SPEED of line 1",
+              (Said{"2 overlap: takes registers 00101 to 00102 from PUMP_SPEED of line 1",
                     "3 overlap: takes register 00100 from PUMP_SPEED of line 1",
-                    "3 overlap: takes register 00101 to 00102 from TANK_LEVEL of line 2",
+                    "3 overlap: takes registers 00101 to 00102 from TANK_LEVEL of line 2",
                     "3 order: saving sorts the "
                     "lines by space and address; this one comes before line 2"}));
 }

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
+#include <sstream>
+#include <string>
+
 namespace
 {
 
@@ -101,6 +104,24 @@ TEST_F(Check, WritesJsonForTools)
     EXPECT_STREQ(finding["suggestion"].GetString(), "PUMP_SPEED");
     EXPECT_EQ(finding["marks"].GetInt(), 2);
     EXPECT_FALSE(json["findings"][1].HasMember("space"));
+}
+
+TEST_F(Check, WritesEachFindingAsOneLineOfTheJson)
+{
+    const ToolRun run = check(wrongMap + "nothing\n", {"--format", "json"});
+    std::istringstream lines(run.output);
+    int findings = 0;
+    for (std::string text; std::getline(lines, text);)
+    {
+        if (text.find("\"rule\":") == std::string::npos)
+            continue;
+        ++findings;
+        if (text.ends_with(','))
+            text.pop_back();
+        rapidjson::Document finding;
+        EXPECT_FALSE(finding.Parse(text.c_str()).HasParseError()) << text;
+    }
+    EXPECT_EQ(findings, 2);
 }
 
 TEST_F(Check, WritesValidJsonOfAnyBytesInNames)

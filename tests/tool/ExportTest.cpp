@@ -143,15 +143,3 @@ TEST_F(Export, KeepsTheOldFileAndTellsTheReasonWhenItsSizeIsLimited)
         runShell("rm hard.txt", here());
     }
 }
-
-TEST_F(Export, KeepsTheOldFileAndTellsTheReasonWhenTheDiskIsFull)
-{
-    const std::string small = "unshare --mount sh -c 'mount -t tmpfs -o size=16k none . && ";
-    if (runShell(small + "true'", here()).exitCode != 0)
-        GTEST_SKIP() << "no right to mount a small disk";
-    const ToolRun run = runShell(small + "cd \"$PWD\" && echo old >map.txt && " + tool + "export -m " + samplePath +
-                                     " -o map.txt; echo $?; ls -A; cat map.txt'",
-                                 here());
-    EXPECT_EQ(run.errors, "tolvane-map: map.txt: cannot be written: No space left on device\n");
-    EXPECT_EQ(run.output, "2\nmap.txt\nold\n");
-}
