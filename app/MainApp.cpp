@@ -13,6 +13,7 @@
 #include "ui/Paths.h"
 
 #include <wx/cmdline.h>
+#include <wx/image.h>
 
 #include <cstdlib>
 

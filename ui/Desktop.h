@@ -3,6 +3,7 @@
 class wxComboBox;
 class wxString;
 class wxTextCtrl;
+class wxTreeCtrl;
 class wxWindow;
 
 /// What the toolkit leaves to each desktop to arrange.
@@ -18,8 +19,16 @@ void preferDark();
 /// To be called once, before the first window is created.
 void drawControlsPlainly();
 
+/// Asks the desktop for the dark variant of what it draws around and inside a window, where a window has to ask itself.
+/// To be called once its controls are there.
+void darken(wxWindow& window);
+
 /// Shows the focus in a window from the start, and not only after the first key.
 void showFocusAtOnce(wxWindow& window);
+
+/// A tree whose chosen node is seen plainly on a dark background, whether it has the keyboard or not.
+/// @param style  the toolkit's styles of trees
+wxTreeCtrl* createTree(wxWindow* parent, long style);
 
 /// Makes the Tab key stop once at a combo box.
 void keepOneTabStop(wxComboBox& box);

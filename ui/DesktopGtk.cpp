@@ -6,6 +6,7 @@
 #include <gtk/gtk.h>
 #include <wx/combobox.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 
 namespace
 {
@@ -65,12 +66,22 @@ void drawControlsPlainly()
              "paned > separator { background-image: image(#333333); }");
 }
 
+void darken(wxWindow&)
+{
+    // The theme has done it for all windows.
+}
+
 void showFocusAtOnce(wxWindow& window)
 {
     // GTK 3.24 hides it when the window appears.
     g_signal_connect_after(window.GetHandle(), "map",
                            G_CALLBACK(+[](GtkWidget* shown) { gtk_window_set_focus_visible(GTK_WINDOW(shown), TRUE); }),
                            nullptr);
+}
+
+wxTreeCtrl* createTree(wxWindow* parent, long style)
+{
+    return new wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
 }
 
 void keepOneTabStop(wxComboBox& box)

@@ -1,22 +1,127 @@
-// The same on Windows, where most of it is as the program needs it.
+// What only Windows can be asked for. Each function makes good what the system, or toolkit 3.2 on top of it, does
+// differently from what the dark windows need.
 
+#include "ui/DarkModeWindows.h"
 #include "ui/Desktop.h"
+#include "ui/Theme.h"
 
+#include <wx/button.h>
+#include <wx/dcclient.h>
+#include <wx/msw/wrapcctl.h>
+#include <wx/renderer.h>
+#include <wx/statline.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 #include <wx/utils.h>
+#include <wx/weakref.h>
+
+#include <memory>
+#include <utility>
+
+namespace
+{
+
+/// Draws the sash of a splitter, which the toolkit otherwise draws for a light window.
+class DarkSash : public wxDelegateRendererNative
+{
+public:
+    // Asked for, toolkit 3.2 makes the usual one; later that would take the place of this one.
+    DarkSash() : wxDelegateRendererNative(wxRendererNative::Get()) {}
+
+    void DrawSplitterSash(wxWindow* window, wxDC& dc, const wxSize& size, wxCoord position, wxOrientation orientation,
+                          int) override
+    {
+        const int width = GetSplitterParams(window).widthSash;
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.SetBrush(wxBrush(theme::colour(theme::headerBackground)));
+        dc.DrawRectangle(orientation == wxVERTICAL ? wxRect(position, 0, width, size.GetHeight())
+                                                   : wxRect(0, position, size.GetWidth(), width));
+    }
+};
+
+/// A tree whose chosen node can be read while the keyboard is elsewhere: the system then lays light grey under it.
+class DarkTree : public wxTreeCtrl
+{
+public:
+    using wxTreeCtrl::wxTreeCtrl;
+
+protected:
+    bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override
+    {
+        const bool handled = wxTreeCtrl::MSWOnNotify(control, parameter, result);
+        auto* const drawn = reinterpret_cast<NMTVCUSTOMDRAW*>(parameter);
+        if (drawn->nmcd.hdr.code != static_cast<UINT>(NM_CUSTOMDRAW))
+            return handled;
+        if (drawn->nmcd.dwDrawStage == CDDS_PREPAINT)
+            *result |= CDRF_NOTIFYITEMDRAW;
+        else if (drawn->nmcd.dwDrawStage == CDDS_ITEMPREPAINT && (drawn->nmcd.uItemState & CDIS_SELECTED) != 0)
+            showChosen(*drawn);
+        return true;
+    }
+
+private:
+    void showChosen(NMTVCUSTOMDRAW& drawn) const
+    {
+        const Rgb ground = HasFocus() ? theme::selection : theme::entryBackground;
+        const Rgb text = HasFocus() ? theme::selectionText : theme::entryText;
+        drawn.clrTextBk = RGB(ground.red, ground.green, ground.blue);
+        drawn.clrText = RGB(text.red, text.green, text.blue);
+    }
+};
+
+/// Draws the lines in a window in a colour of ours; those of the system are white.
+void darkenLines(wxWindow& window)
+{
+    for (wxWindow* const child : window.GetChildren())
+    {
+        if (dynamic_cast<wxStaticLine*>(child))
+        {
+            child->Bind(wxEVT_PAINT,
+                        [child](wxPaintEvent&)
+                        {
+                            wxPaintDC dc(child);
+                            dc.SetBackground(wxBrush(theme::colour(theme::headerBackground)));
+                            dc.Clear();
+                        });
+        }
+        darkenLines(*child);
+    }
+}
+
+/// Whom the focus goes back to once a button is released.
+struct LentFocus
+{
+    wxWeakRef<wxWindow> owner;
+    bool isWatched = false;
+
+    void giveBack()
+    {
+        if (wxWindow* const window = owner.get())
+            window->SetFocus();
+        owner = nullptr;
+    }
+};
+
+} // namespace
 
 namespace desktop
 {
 
 void preferDark()
 {
-    // The toolkit draws the desktop's own parts of this system in their light variant only; its check boxes are white
-    // and need no frame.
+    darkMode::prefer();
 }
 
 void drawControlsPlainly()
 {
-    // Controls of this system do.
+    // Other controls of this system do.
+    wxRendererNative::Set(new DarkSash);
+}
+
+void darken(wxWindow& window)
+{
+    darkMode::dress(window);
+    darkenLines(window);
 }
 
 void showFocusAtOnce(wxWindow&)
@@ -34,16 +139,41 @@ void setAccessibleName(wxWindow&, const wxString&)
     // Screen readers of this system take the label in front of a control.
 }
 
+wxTreeCtrl* createTree(wxWindow* parent, long style)
+{
+    return new DarkTree(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
+}
+
 void keepFocusOnClick(wxWindow& control)
 {
-    // Buttons of this system take the focus when they are pressed; the Tab key may give it to them.
+    // Buttons of this system take the focus when they are pressed; the Tab key may give it to them. A button that loses
+    // it while it is down forgets the click, so it is given back when the click is made.
+    const auto lent = std::make_shared<LentFocus>();
     control.Bind(wxEVT_SET_FOCUS,
-                 [](wxFocusEvent& event)
+                 [&control, lent](wxFocusEvent& event)
                  {
-                     wxWindow* const before = event.GetWindow();
-                     if (before && wxGetMouseState().LeftIsDown())
-                         before->SetFocus();
                      event.Skip();
+                     if (!wxGetMouseState().LeftIsDown())
+                         return;
+                     lent->owner = event.GetWindow();
+                     // Not before the first press: what is bound last runs first, and the command that the button has
+                     // got meanwhile may open a dialog, which gives the focus back to whoever had it before.
+                     if (!std::exchange(lent->isWatched, true))
+                     {
+                         control.Bind(wxEVT_BUTTON,
+                                      [lent](wxCommandEvent& click)
+                                      {
+                                          click.Skip();
+                                          lent->giveBack();
+                                      });
+                     }
+                 });
+    // Released beside the button no click is made. The system looks at the release after this.
+    control.Bind(wxEVT_LEFT_UP,
+                 [&control, lent](wxMouseEvent& event)
+                 {
+                     event.Skip();
+                     control.CallAfter([lent] { lent->giveBack(); });
                  });
 }
 

@@ -151,6 +151,7 @@ wxSizer* DialogBase::layEnding(wxButton* confirm)
 void DialogBase::lay(wxSizer* content)
 {
     desktop::showFocusAtOnce(*this);
+    desktop::darken(*this);
     SetSizer(content);
     Layout();
     content->Fit(this);

@@ -8,7 +8,8 @@
 
 std::span<const unsigned char> embeddedFile(std::string_view name)
 {
-    const wxString wide = wxString::FromUTF8(name.data(), name.size());
+    wxString wide = wxString::FromUTF8(name.data(), name.size());
+    wide.Replace("@", "_"); // which the resource compiler does not take in a name
     const HRSRC found = ::FindResourceW(nullptr, wide.wc_str(), RT_RCDATA);
     // A picture that is missing is no failure: its button then shows none.
     if (found == nullptr)

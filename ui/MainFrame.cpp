@@ -4,6 +4,7 @@
 #include "ui/MainFrame.h"
 
 #include "ui/CommandTable.h"
+#include "ui/Desktop.h"
 #include "ui/ImageButton.h"
 #include "ui/NamedImages.h"
 #include "ui/PanelControls.h"
@@ -46,6 +47,7 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
     showSourcePanel(sourceBrowser);
     connectMenus();
     createButtons();
+    desktop::darken(*this);
     Layout();
     // The definition file is loaded by now; the list opens at its first row.
     refreshMapView(0);

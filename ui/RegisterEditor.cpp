@@ -118,6 +118,13 @@ void RegisterEditor::offerOk(const wxString& text)
     okButton->SetDefault();
 }
 
+void RegisterEditor::layAnew()
+{
+    Layout();
+    // Windows moves the pixels of controls that change places, those of the control that covered them included.
+    Refresh();
+}
+
 void RegisterEditor::OnTypeChanged(wxCommandEvent&)
 {
     const std::string type = modelText(typeBox->GetValue());
@@ -125,7 +132,7 @@ void RegisterEditor::OnTypeChanged(wxCommandEvent&)
     lengthField->SetValue(wxString::Format("%d", registerCountFor(type, "1")));
     if (const std::optional<FieldVisibility> visibility = visibilityFor(type))
         showFieldsFor(*visibility);
-    Layout();
+    layAnew();
 }
 
 void RegisterEditor::OnLengthChanged(wxCommandEvent&)
@@ -146,7 +153,7 @@ void RegisterEditor::OnLengthChanged(wxCommandEvent&)
         offerOk(okMovingText);
         break;
     }
-    Layout();
+    layAnew();
 }
 
 void RegisterEditor::OnOk(wxCommandEvent&)

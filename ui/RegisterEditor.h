@@ -30,5 +30,8 @@ private:
     void showFieldsFor(const FieldVisibility& visibility);
     void offerOk(const wxString& text);
 
+    /// Lays the controls out again after some of them have changed.
+    void layAnew();
+
     EditRoom room;
 };

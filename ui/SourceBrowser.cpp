@@ -84,6 +84,9 @@ void SourceBrowser::createTree()
     }
     // Open from the start: most plants have two levels, and a unit is then one click away.
     sourceTree->ExpandAll();
+    // Windows has scrolled to the end meanwhile.
+    if (!items.empty())
+        sourceTree->EnsureVisible(items.front());
 }
 
 bool SourceBrowser::isInside(wxTreeItemId node, const wxTreeItemId& ancestor) const

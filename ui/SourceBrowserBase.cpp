@@ -51,8 +51,7 @@ wxSizer* SourceBrowserBase::createTreeColumn()
     wxPanel* const titleRow = panelControls::createTitleRow(this, "SOURCE");
     // The toolkit (3.2 with GTK) selects the root of a tree in which nothing is selected; hidden, it can be selected
     // without any node being highlighted.
-    sourceTree = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT | wxBORDER_NONE);
+    sourceTree = desktop::createTree(this, wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT | wxBORDER_NONE);
     sourceTree->SetFont(theme::semibold(12));
     sourceTree->SetMinSize(FromDIP(wxSize(treeWidth, -1)));
     panelControls::dress(*sourceTree, theme::contentText, theme::contentBackground);

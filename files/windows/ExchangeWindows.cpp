@@ -67,12 +67,12 @@ bool moveWithoutReplacing(const fs::path& from, const fs::path& to)
 
 /// An exchange that stops half-way has taken the old name away already. The old file then gets it back, or the fresh
 /// one gets it when even that fails; where nothing was moved, neither can happen.
-bool takePlaceOf(const fs::path& target, const fs::path& fresh)
+bool takePlaceOf(const fs::path& target, const fs::path& fresh, ReplaceCall replace)
 {
     const fs::path old = nameMeanwhile(target);
     takeOverAttributes(fresh, target);
-    const bool exchanged = ::ReplaceFileW(target.c_str(), fresh.c_str(), old.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS,
-                                          nullptr, nullptr) != 0;
+    const bool exchanged =
+        replace(target.c_str(), fresh.c_str(), old.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0;
     const bool stands = exchanged || (!moveWithoutReplacing(old, target) && moveWithoutReplacing(fresh, target));
     if (stands)
         ::DeleteFileW(old.c_str());
@@ -87,7 +87,7 @@ void clearStrays(const fs::path& target)
 
 } // namespace
 
-Exchange exchangeFile(const fs::path& target, bool targetExists, std::string_view bytes)
+Exchange exchangeFile(const fs::path& target, bool targetExists, std::string_view bytes, ReplaceCall replace)
 {
     // First, as strays of a large map may have taken the room that the fresh file needs.
     clearStrays(target);
@@ -99,7 +99,7 @@ Exchange exchangeFile(const fs::path& target, bool targetExists, std::string_vie
     if (!overwrite(file.get(), bytes))
         return Exchange::Failed;
     file.close(); // an open file takes nobody's place
-    const bool done = targetExists ? takePlaceOf(target, fresh) : moveWithoutReplacing(fresh, target);
+    const bool done = targetExists ? takePlaceOf(target, fresh, replace) : moveWithoutReplacing(fresh, target);
     return done ? Exchange::Done : Exchange::Refused;
 }
 

@@ -1,4 +1,5 @@
 #include "tests/core/DefinitionFileFixture.h"
+#include "text/Lines.h"
 
 namespace
 {
@@ -21,6 +22,8 @@ protected:
         return loadOf("HOLDING,00001,NONE,INT16,A,about,1,UNLOCKED,OK\n" + line + "\n");
     }
 };
+
+const std::string lineEnd(nativeLineEnd);
 
 } // namespace
 
@@ -125,8 +128,8 @@ TEST_F(DefinitionLoadResult, IsPartialWhenOneObjectCoversTheHeadOfAnother)
 
 TEST_F(DefinitionLoadResult, IsWholeWhenOneObjectLiesOverTheEndOfAnother)
 {
-    const std::string overlapping = "HOLDING,00000,NONE,DOUBLE,A,about,4,UNLOCKED,ERROR\n"
-                                    "HOLDING,00002,BYTES,INT32,B,about,2,UNLOCKED,ERROR\n";
+    const std::string overlapping = "HOLDING,00000,NONE,DOUBLE,A,about,4,UNLOCKED,ERROR" + lineEnd +
+                                    "HOLDING,00002,BYTES,INT32,B,about,2,UNLOCKED,ERROR" + lineEnd;
     EXPECT_EQ(loadOf(overlapping), Whole);
     EXPECT_EQ(saved(), overlapping);
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <string>
 
 TEST(UpperCase, AsciiLettersAloneChange)
@@ -66,17 +65,6 @@ TEST(UpperCase, LongTextsChangeAtEveryPlace)
                          "Z");
         EXPECT_EQ(toUpperCase(text), expected);
     }
-}
-
-TEST(UpperCase, IsTheSameInEveryLocale)
-{
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    for (const char* locale : {"C", "C.UTF-8"})
-    {
-        ASSERT_NE(std::setlocale(LC_ALL, locale), nullptr) << locale;
-        EXPECT_EQ(toUpperCase("title \xC3\xBC"), "TITLE \xC3\x9C") << locale;
-    }
-    std::setlocale(LC_ALL, before.c_str());
 }
 
 TEST(UpperCase, IsAppendedBehindWhatIsThere)

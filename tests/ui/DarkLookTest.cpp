@@ -5,7 +5,6 @@
 #include "tests/ui/UiTest.h"
 
 #include <gtest/gtest.h>
-#include <gtk/gtk.h>
 #include <wx/checkbox.h>
 #include <wx/textctrl.h>
 
@@ -32,13 +31,6 @@ double contrastOfEdge(const wxTextCtrl& field)
 }
 
 } // namespace
-
-TEST(DarkLook, DesktopIsAskedForItsDarkTheme)
-{
-    gboolean dark = FALSE;
-    g_object_get(gtk_settings_get_default(), "gtk-application-prefer-dark-theme", &dark, nullptr);
-    EXPECT_TRUE(dark);
-}
 
 TEST(DarkLook, GroupCheckBoxIsSeenWhileItIsNotTicked)
 {

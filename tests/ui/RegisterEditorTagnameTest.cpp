@@ -2,10 +2,10 @@
 
 #include "tests/core/TagBuilder.h"
 #include "tests/ui/EditorUnderTest.h"
+#include "tests/ui/OfferedList.h"
 #include "ui/ToolkitText.h"
 
 #include <gtest/gtest.h>
-#include <gtk/gtk.h>
 #include <wx/button.h>
 #include <wx/combobox.h>
 #include <wx/textctrl.h>
@@ -15,25 +15,9 @@
 namespace
 {
 
-/// The list of names while it is open. The toolkit knows nothing of such windows.
-GtkWindow* openList()
-{
-    GtkWindow* open = nullptr;
-    GList* const windows = gtk_window_list_toplevels();
-    for (const GList* item = windows; item != nullptr; item = item->next)
-    {
-        auto* const window = GTK_WINDOW(item->data);
-        if (gtk_window_get_type_hint(window) == GDK_WINDOW_TYPE_HINT_COMBO &&
-            gtk_widget_get_mapped(GTK_WIDGET(window)) != FALSE)
-            open = window;
-    }
-    g_list_free(windows);
-    return open;
-}
-
 bool listIsOpen()
 {
-    return openList() != nullptr;
+    return openListCorner().has_value();
 }
 
 /// An editor that offers the names of a small database.
@@ -169,10 +153,8 @@ TEST(RegisterEditorTagname, AClickOnAnOfferedNameTakesIt)
         [&]
         {
             editor.typeBeginning("TA");
-            wxPoint corner;
-            gtk_window_get_position(openList(), &corner.x, &corner.y);
             wxUIActionSimulator simulator;
-            simulator.MouseMove(corner + wxPoint(20, 10));
+            simulator.MouseMove(openListCorner().value() + wxPoint(20, 10));
             simulator.MouseClick();
             EXPECT_TRUE(waitUntil([&] { return editor.tagname() == "TANK_LEVEL" && !listIsOpen(); }));
         });

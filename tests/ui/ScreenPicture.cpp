@@ -1,8 +1,8 @@
 #include "tests/ui/ScreenPicture.h"
 
 #include "tests/ui/Contrast.h"
+#include "tests/ui/ScreenImage.h"
 
-#include <gdk/gdk.h>
 #include <wx/window.h>
 
 #include <algorithm>
@@ -31,21 +31,15 @@ ScreenPicture::ScreenPicture(const wxWindow& window, const wxRect& part)
 
 ScreenPicture::ScreenPicture(const wxRect& place) : width(place.width), height(place.height)
 {
-    // The toolkit's own picture of the screen (3.2 with GTK 3) stays empty.
-    GdkPixbuf* const picture =
-        gdk_pixbuf_get_from_window(gdk_get_default_root_window(), place.x, place.y, width, height);
-    const guchar* line = gdk_pixbuf_read_pixels(picture);
+    const wxImage picture = screenImage(place);
     for (int y = 0; y < height; ++y)
     {
-        const guchar* pixel = line;
         for (int x = 0; x < width; ++x)
         {
-            pixels.push_back(static_cast<Pixel>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]));
-            pixel += gdk_pixbuf_get_n_channels(picture);
+            pixels.push_back(
+                static_cast<Pixel>(picture.GetRed(x, y) << 16 | picture.GetGreen(x, y) << 8 | picture.GetBlue(x, y)));
         }
-        line += gdk_pixbuf_get_rowstride(picture);
     }
-    g_object_unref(picture);
 }
 
 ScreenPicture::Pixel ScreenPicture::ground() const

@@ -37,6 +37,25 @@ private:
     TempFolder folder;
 };
 
+/// A database whose tree is longer than any window is high.
+class LongDatabase
+{
+public:
+    LongDatabase()
+    {
+        std::string parts = R"({"lable": "Part", "dbprefix": "A_"})";
+        for (int count = 0; count < 200; ++count)
+            parts += R"(, {"lable": "Part", "dbprefix": "A_"})";
+        folder.write("long.json", R"({"structure": [{"lable": "First", "dbprefix": "", "structure": [)" + parts +
+                                      R"(]}], "database": [{"Name": "A_1"}]})");
+    }
+
+    DocumentFiles startup() const { return {(folder / "long.json").string(), "", 0}; }
+
+private:
+    TempFolder folder;
+};
+
 /// Opens the tests' plant with the tags of the tank listed and the second of them selected.
 EditorWindow& openWithTankChosen(const PlantFiles& files)
 {
@@ -65,6 +84,17 @@ void focusTree(const EditorWindow& editor)
 }
 
 } // namespace
+
+TEST(SourceTree, OpensAtItsFirstNodeHoweverLongItIs)
+{
+    const LongDatabase database;
+    const EditorWindow& editor = *openEditor(database.startup());
+    beIdle();
+    const wxTreeItemId first = treeNode(editor, "First");
+    ASSERT_TRUE(first.IsOk());
+    EXPECT_TRUE(editor.sourceTree->IsVisible(first));
+    EXPECT_GT(editor.sourceTree->GetCount(), 100U);
+}
 
 TEST(SourceTree, ClickOnANodeListsTheTagsThatBeginWithItsPrefix)
 {

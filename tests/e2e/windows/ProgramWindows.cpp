@@ -1,0 +1,217 @@
+#include "tests/e2e/windows/ProgramWindows.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <thread>
+
+namespace
+{
+
+constexpr std::chrono::seconds patience(30);
+
+/// Between two looks at a condition.
+constexpr std::chrono::milliseconds pause(10);
+
+/// A place inside the first row of a list, from its corner.
+constexpr POINT insideFirstRow{90, 12};
+
+constexpr const wchar_t* keyName = L"Software\\BELTHORNE LTD\\Varnok Software Suite";
+
+std::wstring textOf(HWND window)
+{
+    std::array<wchar_t, 1024> text{};
+    ::GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+std::wstring kindOf(HWND window)
+{
+    std::array<wchar_t, 64> kind{};
+    ::GetClassNameW(window, kind.data(), static_cast<int>(kind.size()));
+    return kind.data();
+}
+
+/// All windows below one, or all windows on the desktop.
+std::vector<HWND> windowsBelow(HWND parent)
+{
+    std::vector<HWND> windows;
+    const auto collect = [](HWND window, LPARAM list) -> BOOL
+    {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+        return TRUE;
+    };
+    if (parent)
+        ::EnumChildWindows(parent, collect, reinterpret_cast<LPARAM>(&windows));
+    else
+        ::EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+RECT placeOf(HWND window)
+{
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    return place;
+}
+
+void press(WORD key)
+{
+    std::array<INPUT, 2> inputs{};
+    for (INPUT& input : inputs)
+    {
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+    }
+    inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+void clickAt(POINT place)
+{
+    ::SetCursorPos(place.x, place.y);
+    std::array<INPUT, 2> inputs{};
+    for (INPUT& input : inputs)
+        input.type = INPUT_MOUSE;
+    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+void clickOn(HWND window)
+{
+    const RECT place = placeOf(window);
+    clickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+}
+
+/// The control of a program's window that has the keyboard.
+HWND focusIn(HWND window)
+{
+    GUITHREADINFO state{};
+    state.cbSize = sizeof state;
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &state);
+    return state.hwndFocus;
+}
+
+} // namespace
+
+bool waitFor(const std::function<bool()>& condition)
+{
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (!condition())
+    {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(pause);
+    }
+    return true;
+}
+
+void SuiteKey::install(const std::wstring& path)
+{
+    HKEY key = nullptr;
+    ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, keyName, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr), 0);
+    const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
+    EXPECT_EQ(::RegSetValueExW(key, L"Path", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size), 0);
+    ::RegCloseKey(key);
+}
+
+void SuiteKey::remove()
+{
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, keyName);
+}
+
+Program::Program(const std::vector<std::wstring>& arguments)
+{
+    std::wstring line = L"\"" PROGRAM_UNDER_TEST L"\"";
+    for (const std::wstring& argument : arguments)
+        line += L" \"" + argument + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    EXPECT_TRUE(
+        ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        << ::GetLastError();
+    // Until then a window may be seen that is not laid out yet.
+    ::WaitForInputIdle(process.hProcess, INFINITE);
+}
+
+Program::~Program()
+{
+    ::TerminateProcess(process.hProcess, 99);
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+HWND Program::waitForWindow(const std::wstring& title) const
+{
+    HWND found = nullptr;
+    const auto isThere = [&]
+    {
+        for (const HWND window : windowsBelow(nullptr))
+        {
+            DWORD owner = 0;
+            ::GetWindowThreadProcessId(window, &owner);
+            if (owner == process.dwProcessId && ::IsWindowVisible(window) && textOf(window) == title)
+                found = window;
+        }
+        return found != nullptr && ::GetForegroundWindow() == found && focusIn(found) != nullptr;
+    };
+    EXPECT_TRUE(waitFor(isThere));
+    return found;
+}
+
+std::wstring Program::messageOf(HWND box)
+{
+    std::wstring message;
+    for (const HWND part : windowsBelow(box))
+    {
+        if (kindOf(part) == L"Static")
+            message += textOf(part);
+    }
+    return message;
+}
+
+void Program::answer(HWND box, const std::wstring& button)
+{
+    for (const HWND part : windowsBelow(box))
+    {
+        if (kindOf(part) == L"Button" && ::IsWindowVisible(part) && textOf(part) == button)
+            return clickOn(part);
+    }
+    ADD_FAILURE() << "no such button";
+}
+
+void Program::deleteFirstRow(HWND mainWindow) const
+{
+    const RECT list = placeOf(focusIn(mainWindow));
+    clickAt({list.left + insideFirstRow.x, list.top + insideFirstRow.y});
+    press(VK_DELETE);
+}
+
+void Program::pressExit(HWND mainWindow)
+{
+    HWND last = nullptr;
+    for (const HWND part : windowsBelow(mainWindow))
+    {
+        if (kindOf(part) != L"Button" || !::IsWindowVisible(part))
+            continue;
+        const RECT place = placeOf(part);
+        const bool isFurther = last == nullptr || place.top < placeOf(last).top ||
+                               (place.top == placeOf(last).top && place.left > placeOf(last).left);
+        if (isFurther)
+            last = part;
+    }
+    ASSERT_NE(last, nullptr);
+    clickOn(last);
+}
+
+std::optional<DWORD> Program::waitForExit() const
+{
+    DWORD code = STILL_ACTIVE;
+    const bool ended = waitFor([&] { return ::WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0; });
+    if (!ended || !::GetExitCodeProcess(process.hProcess, &code))
+        return std::nullopt;
+    return code;
+}
