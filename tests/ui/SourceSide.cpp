@@ -20,7 +20,9 @@ void visitNodes(const wxTreeCtrl& tree, const wxTreeItemId& node, const std::fun
 {
     if (!node.IsOk())
         return;
-    visit(node);
+    // The hidden root is no node of the plant, and on Windows nothing may be asked about it.
+    if (node != tree.GetRootItem())
+        visit(node);
     wxTreeItemIdValue cookie = nullptr;
     for (wxTreeItemId child = tree.GetFirstChild(node, cookie); child.IsOk(); child = tree.GetNextChild(node, cookie))
         visitNodes(tree, child, visit);
