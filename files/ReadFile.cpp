@@ -1,5 +1,7 @@
 #include "files/ReadFile.h"
 
+#include "text/LargePages.h"
+
 #include <array>
 #include <cstdint>
 #include <exception>
@@ -33,6 +35,7 @@ std::optional<std::string> readFile(const std::filesystem::path& path)
         std::string bytes;
         if (!error)
             bytes.reserve(size);
+        preferLargePages(bytes.data(), bytes.capacity());
         appendRest(file, bytes);
         return bytes;
     }

@@ -48,7 +48,10 @@ void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values
 
 } // namespace
 
-DefinitionPlacer::DefinitionPlacer(RegisterMap& target) : map(target) {}
+DefinitionPlacer::DefinitionPlacer(RegisterMap& target, std::size_t expected) : map(target)
+{
+    waiting.reserve(std::min(expected, mostWaiting));
+}
 
 LineMeaning DefinitionPlacer::parseDefinitionLine(const DefinitionFields& fields)
 {
@@ -67,12 +70,23 @@ void DefinitionPlacer::placeAll()
 {
     // From the last line to the first: a later line wins, so what it covers need not be looked at again.
     std::array<LeftOver, spaceCount> left;
+    texts.reserve(2 * waiting.size());
+    written.reserve(slotsCovered());
     std::for_each(waiting.rbegin(), waiting.rend(),
                   [&](const DefinitionObject& object) { place(object, left[static_cast<std::size_t>(object.space)]); });
     fillInTexts();
     comeBack = comeBack && (!overlapping || std::all_of(waiting.begin(), waiting.end(),
                                                         [this](const auto& object) { return isOrderItsOwn(object); }));
     waiting.clear();
+}
+
+/// At least as many slots as the waiting objects get.
+std::size_t DefinitionPlacer::slotsCovered() const
+{
+    std::size_t covered = 0;
+    for (const DefinitionObject& object : waiting)
+        covered += static_cast<std::size_t>(std::max(object.endAddress() - object.firstAddress(), 0));
+    return std::min(covered, mostWaiting);
 }
 
 /// Whether the first slot has no flag of an object that lies below this one.

@@ -15,7 +15,8 @@ class DefinitionPlacer
 {
 public:
     /// @param target  the map that the objects go to
-    explicit DefinitionPlacer(RegisterMap& target);
+    /// @param expected  about as many objects are to come: memory for them is taken at once
+    explicit DefinitionPlacer(RegisterMap& target, std::size_t expected = 0);
 
     /// Takes the object of the next line, to be placed over whatever its slots hold, locked or not; a line to be
     /// dropped places nothing.
@@ -56,6 +57,7 @@ private:
         std::size_t text; ///< index of the tagname in `texts`; the description comes after it
     };
 
+    std::size_t slotsCovered() const;
     void place(const DefinitionObject& object, LeftOver& left);
     bool isOrderItsOwn(const DefinitionObject& object) const;
     void fillInTexts();

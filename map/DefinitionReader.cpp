@@ -3,6 +3,7 @@
 #include "map/DefinitionPlacer.h"
 #include "text/Lines.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -97,7 +98,8 @@ void readLine(DefinitionFileLine& line, DefinitionPlacer& placer, const TagTable
 
 bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer)
 {
-    DefinitionPlacer placer(map);
+    // One object a line, hardly ever more.
+    DefinitionPlacer placer(map, static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1);
     DefinitionFileLine line;
     forEachLine(text,
                 [&](std::string_view lineText)

@@ -32,7 +32,6 @@ Document::Document(std::filesystem::path databaseFile, std::filesystem::path def
     : defaultByteOrder(DefaultByteOrder::fromSwapFlags(swapFlags)), definitionPath(std::move(definitionFile)),
       databasePath(std::move(databaseFile))
 {
-    map.initialise();
 }
 
 LoadResult Document::loadDatabase()
@@ -46,7 +45,16 @@ void Document::loadDefinition()
     if (isLoaded(onDisk))
         validate();
     // Also for a map without a file: only what the user changes from here on is worth a question on leaving.
-    map.takeSnapshot();
+    try
+    {
+        map.takeSnapshot();
+    }
+    catch (const std::bad_alloc&)
+    {
+        // The map fits into the memory, but not what tells whether it was changed. Like a file that does not fit.
+        onDisk = DefinitionLoad::Unreadable;
+        map.initialise();
+    }
 }
 
 void Document::validate()

@@ -1,7 +1,7 @@
 #include "map/RegisterMap.h"
 
 #include <algorithm>
-#include <cstring>
+#include <new>
 #include <utility>
 
 // An object of four registers at 10, and the free slots beside it:
@@ -15,22 +15,21 @@
 // address is what makes the four belong together: it leads from any of them to the head, where the object's registers
 // begin.
 
-std::unique_ptr<RegisterMap::Spaces> RegisterMap::freeSpaces()
-{
-    // Otherwise all of it is filled with zeros before the slots are made: 12 MB.
-    return std::make_unique_for_overwrite<Spaces>();
-}
-
-RegisterMap::RegisterMap() : RegisterMap(freeSpaces(), freeSpaces()) {}
-
-RegisterMap::RegisterMap(std::unique_ptr<Spaces> slots, std::unique_ptr<Spaces> saved)
-    : spaces(std::move(slots)), snapshot(std::move(saved))
-{
-}
+RegisterMap::RegisterMap() : spaces(freeSpaces()), snapshot(spaceCount) {}
 
 RegisterMap RegisterMap::withoutSnapshot()
 {
-    return {freeSpaces(), nullptr};
+    RegisterMap map;
+    map.snapshot.clear();
+    return map;
+}
+
+std::unique_ptr<RegisterMap::Spaces> RegisterMap::freeSpaces()
+{
+    void* const memory = ::operator new(sizeof(Spaces), std::align_val_t(alignof(Spaces)));
+    preferLargePages(memory, sizeof(Spaces));
+    // Its own constructor fills the slots. With parentheses they would be filled with zeros before that.
+    return std::unique_ptr<Spaces>(::new (memory) Spaces);
 }
 
 void RegisterMap::initialise()
@@ -82,13 +81,16 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
 
 void RegisterMap::takeSnapshot()
 {
-    // The whole map twice, 25 MB: comparing is then one pass over memory, and no command has to keep a list of changes.
-    if (snapshot)
-        *snapshot = *spaces;
+    if (snapshot.empty())
+        return;
+    // Comparing is then one pass over memory, and no command has to keep a list of changes.
+    std::vector<SlotRuns> taken(spaces->begin(), spaces->end());
+    snapshot = std::move(taken);
 }
 
 bool RegisterMap::isModified() const
 {
-    // Slots have no padding and equal texts have one handle, so equal bytes are equal maps.
-    return snapshot && std::memcmp(spaces.get(), snapshot.get(), sizeof(Spaces)) != 0;
+    return !snapshot.empty() &&
+           !std::equal(spaces->begin(), spaces->end(), snapshot.begin(),
+                       [](const RegisterSlots& slots, const SlotRuns& saved) { return saved.match(slots); });
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "map/RegisterSlots.h"
+#include "map/SlotRuns.h"
+#include "text/LargePages.h"
 
 #include <array>
 #include <memory>
@@ -16,7 +18,7 @@ enum class ViewMode : int
 
 /// The document: four spaces of 65,536 slots, with the copy that tells whether there is anything to save.
 ///
-/// Fully allocated once, never resized. Coil and Status spaces hold the same slots as the others and take every
+/// Its slots are allocated once, never resized. Coil and Status spaces hold the same slots as the others and take every
 /// data type.
 class RegisterMap
 {
@@ -24,8 +26,8 @@ public:
     /// A map of free slots with a snapshot of free slots.
     RegisterMap();
 
-    /// A map of free slots for a program that reads and never edits. It has no snapshot, which saves half of the time
-    /// that making a map takes, and counts as never modified.
+    /// A map of free slots for a program that reads and never edits. It has no snapshot and takes none, and counts as
+    /// never modified.
     static RegisterMap withoutSnapshot();
 
     /// Frees every slot, shows Holding, empties the clipboard and the error count. View mode and snapshot stay.
@@ -61,6 +63,7 @@ public:
     void placeObject(RegisterSpace space, int start, const RegisterEntry& entry, int count);
 
     /// Remembers the present contents as the saved state.
+    /// @throws std::bad_alloc when there is not enough memory; the saved state is then what it was
     void takeSnapshot();
 
     /// True when any field of any slot differs from the snapshot.
@@ -72,12 +75,13 @@ public:
     std::vector<RegisterEntry> clipboard;                ///< copied registers, in the order in which they paste
 
 private:
-    using Spaces = std::array<RegisterSlots, spaceCount>;
+    /// All slots, on large pages where the system has any.
+    struct alignas(largePageSize) Spaces : std::array<RegisterSlots, spaceCount>
+    {
+    };
 
     static std::unique_ptr<Spaces> freeSpaces();
 
-    RegisterMap(std::unique_ptr<Spaces> slots, std::unique_ptr<Spaces> saved);
-
     std::unique_ptr<Spaces> spaces;
-    std::unique_ptr<Spaces> snapshot; ///< null in a map without
+    std::vector<SlotRuns> snapshot; ///< of each space; empty in a map without
 };

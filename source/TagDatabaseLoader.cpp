@@ -33,6 +33,7 @@ LoadResult takeOver(TagDatabaseBuilder& built, TagDatabase& database)
     database.structure = std::move(built.database.structure);
     if (!built.tags.isPresent())
         return LoadResult::DatabaseMissing;
+    built.tags.finish();
     database.tags = std::move(built.database.tags);
     return LoadResult::Loaded;
 }

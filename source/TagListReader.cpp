@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 // A tag as the files have it, with its numbers as numbers or as texts of digits:
 //
@@ -51,6 +52,7 @@ constexpr std::array<Member<UnfinishedTag>, 7> members{{
 bool TagListReader::beginElement()
 {
     // Cleared rather than made anew: the memory of the two texts serves all tags.
+    UnfinishedTag& tag = group[complete];
     tag.record = {};
     tag.name.clear();
     tag.description.clear();
@@ -59,21 +61,40 @@ bool TagListReader::beginElement()
 
 void TagListReader::member(std::string_view name, std::string_view content)
 {
-    takeMember(members, tag, name, content);
+    takeMember(members, group[complete], name, content);
 }
 
 void TagListReader::endElement()
 {
     // Texts are kept for the life of the program once they are interned, so those of tags that are left out must not
     // be.
-    if (tag.record.groups == reservedMask || tags.count() == tagCapacity)
+    if (group[complete].record.groups == reservedMask || room() == 0)
         return;
-    tag.record.name = InternedText(tag.name);
-    tag.record.description = InternedText(tag.description);
-    tags.append(tag.record);
+    if (++complete == group.size())
+        finish();
+}
+
+void TagListReader::finish()
+{
+    std::array<std::string_view, 2 * groupSize> texts;
+    std::array<InternedText, 2 * groupSize> handles;
+    for (std::size_t i = 0; i < complete; ++i)
+    {
+        texts[2 * i] = group[i].name;
+        texts[2 * i + 1] = group[i].description;
+    }
+    InternedText::internAll(std::span(texts).first(2 * complete), handles);
+    for (std::size_t i = 0; i < complete; ++i)
+    {
+        group[i].record.name = handles[2 * i];
+        group[i].record.description = handles[2 * i + 1];
+        tags.append(group[i].record);
+    }
+    complete = 0;
 }
 
 void TagListReader::clear()
 {
     tags.clear();
+    complete = 0;
 }

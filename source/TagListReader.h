@@ -3,6 +3,8 @@
 #include "source/ListReader.h"
 #include "source/TagTable.h"
 
+#include <array>
+#include <cstddef>
 #include <string>
 
 /// A tag while it is being read.
@@ -24,9 +26,17 @@ public:
     void member(std::string_view name, std::string_view content) override;
     void endElement() override;
 
+    /// Fills the records of the last tags; to be called once the list is complete.
+    void finish();
+
 private:
     void clear() override;
+    int room() const { return tagCapacity - tags.count() - static_cast<int>(complete); }
+
+    /// Tags whose texts are interned together, which is quicker than one by one.
+    static constexpr std::size_t groupSize = 8;
 
     TagTable& tags;
-    UnfinishedTag tag;
+    std::array<UnfinishedTag, groupSize> group; ///< complete tags, then the one that is being read
+    std::size_t complete = 0;
 };

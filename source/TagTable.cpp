@@ -8,7 +8,7 @@
 // A search goes on until it meets the name or a free slot. With half of the slots free at least, that is one or two
 // steps. Only the first record of a name is entered; later ones can be reached by their index alone.
 
-TagTable::TagTable() : records(tagCapacity), firstByName(slotCount, freeSlot) {}
+const TagRecord TagTable::unusedRecord{};
 
 void TagTable::clear()
 {
@@ -29,6 +29,11 @@ bool TagTable::append(const TagRecord& record)
 {
     if (filled == tagCapacity)
         return false;
+    if (firstByName.empty())
+    {
+        records.resize(tagCapacity);
+        firstByName.assign(slotCount, freeSlot);
+    }
     // Among equal names the first one counts, so a name that is there keeps its record.
     std::int32_t& slot = firstByName[slotOf(record.name)];
     if (slot == freeSlot)

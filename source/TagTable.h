@@ -23,15 +23,18 @@ constexpr int tagCapacity = 64;
 class TagTable
 {
 public:
-    /// A table without tags.
-    TagTable();
+    /// A table without tags, which takes no memory before the first one comes.
+    TagTable() = default;
 
     /// Number of filled records, 0..65536.
     int count() const { return filled; }
 
     /// A record, filled or not.
     /// @param index  0..65535
-    const TagRecord& operator[](int index) const { return records[static_cast<std::size_t>(index)]; }
+    const TagRecord& operator[](int index) const
+    {
+        return records.empty() ? unusedRecord : records[static_cast<std::size_t>(index)];
+    }
 
     /// Forgets every tag.
     void clear();
@@ -52,9 +55,11 @@ private:
     /// Where the name's record is entered, or the free slot where it would be.
     std::size_t slotOf(InternedText name) const;
 
-    std::vector<TagRecord> records;
+    static const TagRecord unusedRecord;
+
+    std::vector<TagRecord> records; ///< all of them, or none before the first tag
     int filled = 0;
-    std::vector<std::int32_t> firstByName; ///< open-addressing table of record indices
+    std::vector<std::int32_t> firstByName; ///< open-addressing table of record indices; empty with `records`
 };
 
 // Validation looks a name up for each of up to 262,144 slots: the search stands here so that it can be inlined.
@@ -69,7 +74,7 @@ inline std::size_t TagTable::slotOf(InternedText name) const
 
 inline std::optional<int> TagTable::find(InternedText name) const
 {
-    const std::int32_t index = firstByName[slotOf(name)];
+    const std::int32_t index = firstByName.empty() ? freeSlot : firstByName[slotOf(name)];
     if (index != freeSlot)
         return index;
     if (name.empty() && filled < tagCapacity)

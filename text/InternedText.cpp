@@ -1,5 +1,7 @@
 #include "text/InternedText.h"
 
+#include "text/LargePages.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -118,7 +120,11 @@ private:
     {
         // Room for names and descriptions of a full database: growing up to there would take 4 ms of its loading.
         constexpr std::size_t firstSize = 1U << 18U;
-        std::vector<Slot> larger(std::max(firstSize, slots.size() * 2));
+        const std::size_t size = std::max(firstSize, slots.size() * 2);
+        std::vector<Slot> larger;
+        larger.reserve(size);
+        preferLargePages(larger.data(), size * sizeof(Slot));
+        larger.resize(size);
         // Each entry is on its place by its hash alone: all of them are different, so there is nothing to compare.
         const std::size_t mask = larger.size() - 1;
         for (const Slot& slot : slots)

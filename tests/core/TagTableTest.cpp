@@ -6,6 +6,16 @@
 
 #include <string>
 
+TEST(TagTable, WithoutTagsEveryRecordIsUnusedAndTheEmptyNameFindsTheFirst)
+{
+    const TagTable tags;
+    EXPECT_EQ(tags.count(), 0);
+    EXPECT_TRUE(tags[0].name.empty());
+    EXPECT_EQ(tags[tagCapacity - 1].size, 0);
+    EXPECT_EQ(tags.find(InternedText()), 0);
+    EXPECT_EQ(tags.find(InternedText("ANY_NAME")), std::nullopt);
+}
+
 TEST(TagTable, FirstOfEqualNamesIsFound)
 {
     TagTable table;
