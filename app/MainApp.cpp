@@ -1,5 +1,6 @@
 // The order of a start: command line, look of the desktop, installation, files, window. Each step that has something to
-// say shows its message before the next one begins. The window comes last, so it is never seen half filled.
+// say shows its message before the next one begins. The window comes last, so it is never seen half filled. The files
+// have nothing to say before they are waited for, so they are read from the first moment on, on threads of their own.
 
 #include "app/MainApp.h"
 
@@ -9,7 +10,6 @@
 #include "ui/Desktop.h"
 #include "ui/MainFrame.h"
 #include "ui/MessageBox.h"
-#include "ui/OpenDocument.h"
 #include "ui/Paths.h"
 
 #include <wx/cmdline.h>
@@ -35,12 +35,15 @@ bool MainApp::OnInit()
 {
     // A wrong command line shows its usage and opens the window all the same, with the values at their defaults.
     wxApp::OnInit();
+    const std::optional<wxString> suitePath = findInstallation();
+    std::optional<DocumentLoading> loading;
+    if (suitePath)
+        loading.emplace(createDocument());
     // Before any window: their icons and buttons are PNG pictures.
     wxInitAllImageHandlers();
     desktop::preferDark();
     desktop::drawControlsPlainly();
     // The program comes with the suite and is not meant to run without it. An empty path is enough: only Help uses it.
-    const std::optional<wxString> suitePath = findInstallation();
     if (!suitePath)
     {
         messageBox("Cannot locate registry entries required by this program\n\n"
@@ -48,20 +51,29 @@ bool MainApp::OnInit()
                    "Alert - Program cannot continue", wxOK | wxICON_ERROR);
         return true; // without a document there is nothing to run
     }
+    openWindow(*suitePath, *loading);
+    return true;
+}
+
+Document& MainApp::createDocument()
+{
     document.emplace(toPath(startupValues.databasePath), toPath(startupValues.definitionPath), startupValues.swapFlags);
     document->spareFolder = rescueFolder();
-    openDocument(*document);
+    return *document;
+}
+
+void MainApp::openWindow(const wxString& suitePath, DocumentLoading& loading)
+{
+    auto* const frame = new MainFrame(*document, suitePath, chooseFileWithDialog, &loading);
     // After loading: what has just been read is on the disk and needs no copy.
     rescue.emplace(*document, rescueFolder());
     callBeforeEnding([this] { rescue->finish(); });
 
-    auto* const frame = new MainFrame(*document, *suitePath);
     frame->SetTitle("Modbus Map Editor");
     frame->Maximize();
     frame->Show();
     // Only a window that is shown knows its size, from which the sash and the last columns get theirs.
     frame->settleLayout();
-    return true;
 }
 
 int MainApp::OnRun()

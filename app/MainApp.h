@@ -2,6 +2,7 @@
 
 #include "app/CommandLine.h"
 #include "map/Document.h"
+#include "map/DocumentLoading.h"
 #include "ui/RescueKeeper.h"
 
 #include <wx/app.h>
@@ -19,6 +20,9 @@ public:
     bool OnCmdLineParsed(wxCmdLineParser& parser) override;
 
 private:
+    Document& createDocument();
+    void openWindow(const wxString& suitePath, DocumentLoading& loading);
+
     StartupValues startupValues;
     std::optional<Document> document; ///< the window shows it, and is gone before the application is
     std::optional<RescueKeeper> rescue;

@@ -12,7 +12,9 @@
 /// A handle has the size of a pointer and is trivially copyable: equal texts are one object, so comparing handles
 /// compares contents and copying a slot that holds texts is a copy of memory. The empty text is the all-zero handle.
 /// Texts are never released; a session's worth of edits is small beside the files it starts from.
-/// Belongs to the user-interface thread.
+/// Making handles and asking for known ones belongs to one thread at a time: to those that load the document, one after
+/// the other, and to the thread of the windows once they have finished. Any thread may look at a handle that it has
+/// got.
 class InternedText
 {
 public:

@@ -7,6 +7,7 @@
 #include "ui/Desktop.h"
 #include "ui/ImageButton.h"
 #include "ui/NamedImages.h"
+#include "ui/OpenDocument.h"
 #include "ui/PanelControls.h"
 #include "ui/SourceBrowser.h"
 #include "ui/SpaceButtons.h"
@@ -30,7 +31,8 @@ constexpr int narrowGap = 7;
 
 } // namespace
 
-MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser)
+MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser,
+                     DocumentLoading* loading)
     : document(shownDocument), map(shownDocument.map), chooseFile(std::move(fileChooser)),
       documentationFolder(suitePath + documentationSubfolder), deviceAddress(TOLVANE_DEFAULT_DEVICE_ADDRESS),
       secondDeviceAddress(TOLVANE_DEFAULT_DEVICE_ADDRESS)
@@ -47,12 +49,25 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
     showSourcePanel(sourceBrowser);
     connectMenus();
     createButtons();
+    showDocument(loading);
     desktop::darken(*this);
     Layout();
-    // The definition file is loaded by now; the list opens at its first row.
-    refreshMapView(0);
     // The map is what is edited; its keys work from the first moment.
     mapGrid->SetFocus();
+    startTimer();
+}
+
+void MainFrame::showDocument(DocumentLoading* loading)
+{
+    if (loading != nullptr)
+        tellWhyNotLoaded(loading->waitForDatabase());
+    // While another thread still reads the definition file.
+    sourceBrowser->showDatabase();
+    if (loading != nullptr)
+        loading->finish();
+    showSpaceButtons();
+    // The list opens at its first row.
+    refreshMapView(0);
 }
 
 void MainFrame::settleLayout()
@@ -74,7 +89,6 @@ void MainFrame::createButtons()
     }
     // The copy button of the source side stands before the filter field, which was made earlier.
     sourceBrowser->orderTabStops();
-    showSpaceButtons();
 }
 
 void MainFrame::createSpaceButtons()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/Document.h"
+#include "map/DocumentLoading.h"
 #include "map/RegisterMoves.h"
 #include "ui/FileChooser.h"
 #include "ui/MainFrameBase.h"
@@ -23,10 +24,13 @@ class wxBitmapButton;
 class MainFrame : public MainFrameBase
 {
 public:
-    /// @param shownDocument  loaded; outlives the window
+    /// The controls are made first; only then is the document waited for, and the user told what is wrong with it.
+    /// @param shownDocument  loaded or being loaded; outlives the window
     /// @param suitePath      the suite's installation path as stored, which ends in a separator of its own
     /// @param fileChooser    how the user is asked for a file
-    MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser = chooseFileWithDialog);
+    /// @param loading        what loads the document; none when it is loaded already
+    MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser = chooseFileWithDialog,
+              DocumentLoading* loading = nullptr);
 
     /// Puts the sash in the middle and gives the last columns their room; to be called once the window is shown.
     void settleLayout();
@@ -115,6 +119,7 @@ protected:
     void OnTimer(wxTimerEvent& event) override;
 
 private:
+    void showDocument(DocumentLoading* loading);
     void connectMenus();
     void createButtons();
     void createSpaceButtons();

@@ -60,7 +60,10 @@ MainFrameBase::MainFrameBase()
     Centre(wxBOTH);
 
     connectEvents();
-    // From here on the handlers are called, but not before the event loop runs.
+}
+
+void MainFrameBase::startTimer()
+{
     timer.Start(statusInterval);
 }
 

@@ -29,6 +29,9 @@ protected:
     virtual void OnMapGridContextMenu(wxContextMenuEvent& event);
     virtual void OnTimer(wxTimerEvent& event);
 
+    /// Counts the error marks from here on, once a second.
+    void startTimer();
+
     /// Puts the source side into the left half of the window.
     /// @param panel  child of `splitter`
     void showSourcePanel(wxWindow* panel);

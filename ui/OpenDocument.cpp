@@ -7,10 +7,14 @@
 
 void openDocument(Document& document)
 {
-    const LoadResult result = document.loadDatabase();
+    tellWhyNotLoaded(document.loadDatabase());
+    // After the database: lines without a length take it from the tag that they name.
+    document.loadDefinition();
+}
+
+void tellWhyNotLoaded(LoadResult result)
+{
     // A start without the option is told so too: an editor without tags is rarely what was meant.
     if (result != LoadResult::Loaded)
         messageBox(toolkitText(loadMessage(result)), "Message");
-    // After the database: lines without a length take it from the tag that they name.
-    document.loadDefinition();
 }

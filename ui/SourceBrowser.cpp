@@ -36,10 +36,15 @@ constexpr int groupBorder = 5;
 
 SourceBrowser::SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, CommandRunner commandRunner)
     : SourceBrowserBase(parent), database(tagDatabase), runCommand(std::move(commandRunner)),
-      table(new TagGridTable(database)), searchIndex(database.tags)
+      table(new TagGridTable(database))
 {
     panelControls::showTable(*sourceGrid, table);
     showWhileEmpty(*sourceGrid, [this] { return emptyListText(); });
+}
+
+void SourceBrowser::showDatabase()
+{
+    searchIndex = TagSearchIndex(database.tags);
     createGroupBoxes();
     createTree();
     // Last, because the boxes are asked what to show.

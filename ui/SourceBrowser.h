@@ -22,9 +22,12 @@ public:
     /// How a command of the tag grid is run whose key was pressed.
     using CommandRunner = std::function<void(const Command&)>;
 
-    /// Shows the database as far as it was loaded.
-    /// @param tagDatabase  loaded; outlives the browser
+    /// Shows nothing yet.
+    /// @param tagDatabase  outlives the browser; may still be loaded
     SourceBrowser(wxWindow* parent, const TagDatabase& tagDatabase, CommandRunner commandRunner);
+
+    /// Shows the database as far as it was loaded; to be called once.
+    void showDatabase();
 
     /// Indices of the tags whose rows are selected, in row order.
     std::vector<int> selectedTags() const;

@@ -50,6 +50,31 @@ TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnE
     EXPECT_EQ(program.errorOutput(), "");
 }
 
+TEST_F(Start, AMapIsShownOnceTheMissingDatabaseHasBeenTold)
+{
+    const std::filesystem::path map = write("map.csv", "HOLDING,00010,NONE,INT16,NAME,text,1\n");
+    ProgramUnderTest& program = start({"--modbus", map.string()});
+    const Control message = program.waitForMessage(noDatabase);
+    EXPECT_FALSE(program.showsMainWindow());
+    program.clickButton(message, "OK");
+    program.waitForMainWindow();
+    program.waitForText("  WARNING : 1 error(s) found in register map");
+    EXPECT_EQ(program.mapGrid().filledRows(), 1);
+    leaveWithoutQuestion();
+}
+
+TEST_F(Start, OfTwoBadFilesTheDatabaseAloneIsReported)
+{
+    const std::filesystem::path database = write("plant.json", "nonsense");
+    const std::filesystem::path map = write("map.csv", "nonsense");
+    ProgramUnderTest& program = start({"--json", database.string(), "--modbus", map.string()});
+    program.clickButton(program.waitForMessage("Bad JSON format\n"), "OK");
+    program.waitForMainWindow();
+    program.waitForText("  No errors");
+    EXPECT_EQ(program.mapGrid().filledRows(), 0);
+    leaveWithoutQuestion();
+}
+
 TEST_F(Start, MainWindowsButtonsAndFilterHaveNamesForScreenReaders)
 {
     ProgramUnderTest& program = start({});

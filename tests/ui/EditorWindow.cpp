@@ -3,7 +3,6 @@
 #include "tests/ui/ControlsBelow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
-#include "ui/OpenDocument.h"
 #include "ui/SourceBrowser.h"
 #include "ui/ToolkitText.h"
 #include "ui/grid/GridSelection.h"
@@ -48,15 +47,16 @@ std::vector<wxBitmapButton*> buttonsCalled(const wxWindow& window, const wxStrin
 
 } // namespace
 
-ShownDocument::ShownDocument(const DocumentFiles& files) : shown(files.database, files.definition, files.swapFlags)
+ShownDocument::ShownDocument(const DocumentFiles& files)
+    : shown(files.database, files.definition, files.swapFlags), loading(shown)
 {
-    openDocument(shown);
 }
 
 EditorWindow::EditorWindow(const DocumentFiles& files)
     : ShownDocument(files),
-      MainFrame(shown, "/suite/",
-                [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); }),
+      MainFrame(
+          shown, "/suite/",
+          [this](wxWindow* parent, const FileQuestion& question) { return chooser(parent, question); }, &loading),
       sourceBrowser(firstBelow<SourceBrowser>(*this)), sourceTree(firstBelow<wxTreeCtrl>(*sourceBrowser)),
       sourceFilter(firstBelow<wxTextCtrl>(*sourceBrowser)), sourceGrid(firstBelow<wxGrid>(*sourceBrowser)),
       groupFilters(firstBelow<wxScrolledWindow>(*sourceBrowser))

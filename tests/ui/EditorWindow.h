@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/Document.h"
+#include "map/DocumentLoading.h"
 #include "tests/core/TempFolder.h"
 #include "ui/MainFrame.h"
 
@@ -29,6 +30,7 @@ struct ShownDocument
     explicit ShownDocument(const DocumentFiles& files);
 
     Document shown;
+    DocumentLoading loading; ///< which the window waits for, as in the program
     FileChooser chooser = chooseFileWithDialog;
 };
 
