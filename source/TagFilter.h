@@ -16,8 +16,9 @@ struct TagFilter
     std::vector<std::uint32_t> checkedMasks; ///< masks of the checked groups; a tag has to belong to each of them
 };
 
-/// Names and descriptions of all tags in upper case, made once after loading: a filter is asked at every keystroke.
-/// They lie in one piece of memory of the right size, which saves 5 ms on 65,536 tags against one string for each.
+/// Names and descriptions of all tags in upper case, made once, before the first search: a filter is asked at every
+/// keystroke. They lie in one piece of memory of the right size, which saves 5 ms on 65,536 tags against one string for
+/// each.
 class TagSearchIndex
 {
 public:
@@ -46,6 +47,6 @@ private:
 ///
 /// A tag is shown when its name begins with the prefix, its name or its description holds the text, and it has a bit
 /// in common with each checked mask; a checked mask of 0 hides every tag.
-/// @param index  built from `tags`
+/// @param index  built from `tags`; not looked at without a text
 /// @return indices in the tag table, ascending
 std::vector<int> filterTags(const TagTable& tags, const TagSearchIndex& index, const TagFilter& filter);

@@ -7,6 +7,7 @@
 #include <wx/treebase.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,7 +58,7 @@ private:
     const TagDatabase& database;
     CommandRunner runCommand;
     TagGridTable* table = nullptr;
-    TagSearchIndex searchIndex;
+    std::optional<TagSearchIndex> searchIndex; ///< made for the first search
     std::vector<wxCheckBox*> groupBoxes;
     wxTreeItemId chosenNode; ///< the node whose prefix is in force; none before the first choice
     std::string currentPrefix;

@@ -45,6 +45,13 @@ TEST(TagFilter, EmptyFilterShowsEveryTag)
     EXPECT_EQ(shown(TagTable(), {}), Tags{});
 }
 
+TEST(TagFilter, WithoutATextNoIndexIsNeeded)
+{
+    const TagSearchIndex none;
+    EXPECT_EQ(filterTags(plant(), none, {"PMP1", "", {}}), (Tags{0, 1}));
+    EXPECT_EQ(filterTags(plant(), none, {"", "", {1}}), (Tags{0, 2, 4}));
+}
+
 TEST(TagFilter, TextIsFoundInNameOrDescriptionInAnyLetterCase)
 {
     EXPECT_EQ(shown(plant(), {"", "temp", {}}), (Tags{0, 1, 4}));
