@@ -1,6 +1,7 @@
 // The program's entry on systems where arguments are bytes.
 
 #include "text/EscapedBytes.h"
+#include "text/FreePages.h"
 
 #include <wx/init.h>
 #include <wx/string.h>
@@ -12,6 +13,7 @@
 /// so they are handed over as text from which the same bytes can be made again.
 int main(int argc, char** argv)
 {
+    keepOneStore();
     std::vector<std::wstring> words;
     words.reserve(static_cast<std::size_t>(argc));
     for (int i = 0; i < argc; ++i)

@@ -1,5 +1,7 @@
 #include "map/DocumentLoading.h"
 
+#include "text/FreePages.h"
+
 // Not one thread for both files: the list of tags is shown as soon as it is there, and a thread that only waits costs
 // nothing.
 
@@ -20,6 +22,7 @@ DocumentLoading::DocumentLoading(Document& opened)
                                 if (tags.get() != LoadResult::Loaded)
                                     return false;
                                 opened.loadDefinition();
+                                returnFreePages();
                                 return true;
                             }))
 {
