@@ -6,10 +6,9 @@
 #include "ui/Theme.h"
 
 #include <wx/button.h>
-#include <wx/dcclient.h>
+#include <wx/dc.h>
 #include <wx/msw/wrapcctl.h>
 #include <wx/renderer.h>
-#include <wx/statline.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
@@ -69,25 +68,6 @@ private:
     }
 };
 
-/// Draws the lines in a window in a colour of ours; those of the system are white.
-void darkenLines(wxWindow& window)
-{
-    for (wxWindow* const child : window.GetChildren())
-    {
-        if (dynamic_cast<wxStaticLine*>(child))
-        {
-            child->Bind(wxEVT_PAINT,
-                        [child](wxPaintEvent&)
-                        {
-                            wxPaintDC dc(child);
-                            dc.SetBackground(wxBrush(theme::colour(theme::headerBackground)));
-                            dc.Clear();
-                        });
-        }
-        darkenLines(*child);
-    }
-}
-
 /// Whom the focus goes back to once a button is released.
 struct LentFocus
 {
@@ -121,7 +101,6 @@ void drawControlsPlainly()
 void darken(wxWindow& window)
 {
     darkMode::dress(window);
-    darkenLines(window);
 }
 
 void showFocusAtOnce(wxWindow&)

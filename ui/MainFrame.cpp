@@ -52,8 +52,6 @@ MainFrame::MainFrame(Document& shownDocument, const wxString& suitePath, FileCho
     showDocument(loading);
     desktop::darken(*this);
     Layout();
-    // The map is what is edited; its keys work from the first moment.
-    mapGrid->SetFocus();
     startTimer();
 }
 
@@ -77,6 +75,8 @@ void MainFrame::settleLayout()
     sourceBrowser->fitColumns();
     fitColumns();
     Layout();
+    // The map is what is edited; its keys work from the first moment. Windows gives no keyboard to a hidden window.
+    mapGrid->SetFocus();
 }
 
 void MainFrame::createButtons()

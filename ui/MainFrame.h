@@ -32,7 +32,8 @@ public:
     MainFrame(Document& shownDocument, const wxString& suitePath, FileChooser fileChooser = chooseFileWithDialog,
               DocumentLoading* loading = nullptr);
 
-    /// Puts the sash in the middle and gives the last columns their room; to be called once the window is shown.
+    /// Puts the sash in the middle, gives the last columns their room and the map the keyboard; to be called once the
+    /// window is shown.
     void settleLayout();
 
     // Commands on the selected registers; each does nothing while none is selected.

@@ -11,13 +11,26 @@
 #include <wx/grid.h>
 #include <wx/scrolwin.h>
 #include <wx/sizer.h>
-#include <wx/statline.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
+#include <wx/window.h>
 
 namespace
 {
+
+/// A line across. That of the system takes no colour on Windows, where it is white.
+class Line : public wxWindow
+{
+public:
+    explicit Line(wxWindow* parent) : wxWindow(parent, wxID_ANY)
+    {
+        SetMinSize(wxSize(-1, FromDIP(1)));
+        SetBackgroundColour(theme::colour(theme::entryBackground));
+    }
+
+    bool AcceptsFocus() const override { return false; }
+};
 
 /// Rows of a grid that are as high as the group filters before they scroll.
 constexpr int groupFilterRows = 7;
@@ -99,7 +112,7 @@ wxPanel* SourceBrowserBase::createDatabaseRow()
 
 void SourceBrowserBase::createGroupFilters(wxSizer& column)
 {
-    column.Add(new wxStaticLine(this), 0, wxEXPAND | wxTOP, FromDIP(1));
+    column.Add(new Line(this), 0, wxEXPAND | wxTOP, FromDIP(1));
     column.Add(panelControls::createText(this, "Group Filters", theme::semibold(14), theme::title), 0, wxLEFT | wxTOP,
                FromDIP(8));
     groupFilters = new QuietScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxVSCROLL);
