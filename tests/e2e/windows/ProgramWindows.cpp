@@ -124,7 +124,9 @@ void SuiteKey::remove()
 
 Program::Program(const std::vector<std::wstring>& arguments)
 {
-    std::wstring line = L"\"" PROGRAM_UNDER_TEST L"\"";
+    // The one that was built with the tests, or another one, which is installed.
+    const wchar_t* const other = ::_wgetenv(L"TOLVANE_PROGRAM");
+    std::wstring line = L"\"" + std::wstring(other != nullptr ? other : PROGRAM_UNDER_TEST) + L"\"";
     for (const std::wstring& argument : arguments)
         line += L" \"" + argument + L"\"";
     STARTUPINFOW startup{};
