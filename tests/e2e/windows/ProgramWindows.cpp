@@ -187,7 +187,15 @@ void Program::answer(HWND box, const std::wstring& button)
 
 void Program::deleteFirstRow(HWND mainWindow) const
 {
-    const RECT list = placeOf(focusIn(mainWindow));
+    // The map is in the right half. It gets the keyboard once the window is laid out, which is after it is shown.
+    const RECT window = placeOf(mainWindow);
+    RECT list{};
+    ASSERT_TRUE(waitFor(
+        [&]
+        {
+            list = placeOf(focusIn(mainWindow));
+            return list.left >= (window.left + window.right) / 2;
+        }));
     clickAt({list.left + insideFirstRow.x, list.top + insideFirstRow.y});
     press(VK_DELETE);
 }

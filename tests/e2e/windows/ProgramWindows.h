@@ -48,7 +48,7 @@ public:
     /// Presses the button with that text in a message box.
     static void answer(HWND box, const std::wstring& button);
 
-    /// Selects the first row of the list that has the keyboard, and deletes it with its key.
+    /// Selects the first row of the map, and deletes it with its key.
     void deleteFirstRow(HWND mainWindow) const;
 
     /// Presses the last button of the upper bar, with which the program is left.
