@@ -2,6 +2,7 @@
 #include "files/SafeWrite.h"
 #include "files/windows/Exchange.h"
 #include "files/windows/FileHandle.h"
+#include "tests/core/OpenElsewhereWindows.h"
 #include "tests/core/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -28,24 +29,6 @@ protected:
     }
 
     const TempFolder folder;
-};
-
-/// A file that another program holds open.
-class OpenElsewhere
-{
-public:
-    /// @param sharing  what the other program leaves to everybody else, in FILE_SHARE_ bits
-    OpenElsewhere(const fs::path& path, DWORD sharing)
-        : handle(::CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr))
-    {
-        EXPECT_NE(handle, INVALID_HANDLE_VALUE);
-    }
-    ~OpenElsewhere() { ::CloseHandle(handle); }
-    OpenElsewhere(const OpenElsewhere&) = delete;
-    OpenElsewhere& operator=(const OpenElsewhere&) = delete;
-
-private:
-    HANDLE handle;
 };
 
 DWORD attributesOf(const fs::path& path)

@@ -1,6 +1,7 @@
 // The real program from its start to its end: what is in the file afterwards.
 
 #include "files/ReadFile.h"
+#include "tests/core/OpenElsewhereWindows.h"
 #include "tests/core/TempFolder.h"
 #include "tests/e2e/windows/ProgramWindows.h"
 
@@ -47,23 +48,6 @@ protected:
 
 private:
     const SuiteKey key;
-};
-
-/// A file that another program holds open.
-class OpenElsewhere
-{
-public:
-    OpenElsewhere(const fs::path& path, DWORD sharing)
-        : handle(::CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr))
-    {
-        EXPECT_NE(handle, INVALID_HANDLE_VALUE);
-    }
-    ~OpenElsewhere() { ::CloseHandle(handle); }
-    OpenElsewhere(const OpenElsewhere&) = delete;
-    OpenElsewhere& operator=(const OpenElsewhere&) = delete;
-
-private:
-    HANDLE handle;
 };
 
 } // namespace

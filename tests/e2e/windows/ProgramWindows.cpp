@@ -56,6 +56,7 @@ RECT placeOf(HWND window)
     return place;
 }
 
+/// @param key  of the block beside the letters; the number pad has keys of the same codes
 void press(WORD key)
 {
     std::array<INPUT, 2> inputs{};
@@ -63,8 +64,9 @@ void press(WORD key)
     {
         input.type = INPUT_KEYBOARD;
         input.ki.wVk = key;
+        input.ki.dwFlags = KEYEVENTF_EXTENDEDKEY;
     }
-    inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    inputs[1].ki.dwFlags |= KEYEVENTF_KEYUP;
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
