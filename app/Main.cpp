@@ -1,7 +1,7 @@
 // The program's entry on systems where arguments are bytes.
 
+#include "memory/FreePages.h"
 #include "text/EscapedBytes.h"
-#include "text/FreePages.h"
 
 #include <wx/init.h>
 #include <wx/string.h>

@@ -1,7 +1,7 @@
 #include "benchmarks/DrivenFrame.h"
 
 #include "benchmarks/FullSize.h"
-#include "ui/OpenDocument.h"
+#include "tests/ui/ControlsBelow.h"
 
 #include <gdk/gdk.h>
 #include <wx/app.h>
@@ -9,26 +9,15 @@
 #include <wx/textctrl.h>
 
 #include <memory>
+#include <vector>
 
 namespace
 {
 
-/// The first control of a class below a window.
-/// @param known  passed over, with what it contains
-template <class Control>
-Control* findBelow(const wxWindow& parent, const wxWindow* known = nullptr)
+wxGrid* gridBeside(const wxGrid* mapGrid, const wxWindow& frame)
 {
-    for (wxWindow* const child : parent.GetChildren())
-    {
-        wxWindow& part = *child;
-        if (&part == known)
-            continue;
-        if (auto* const found = dynamic_cast<Control*>(&part))
-            return found;
-        if (auto* const found = findBelow<Control>(part, known))
-            return found;
-    }
-    return nullptr;
+    const std::vector<wxGrid*> grids = controlsBelow<wxGrid>(frame);
+    return grids.front() == mapGrid ? grids.back() : grids.front();
 }
 
 } // namespace
@@ -36,12 +25,13 @@ Control* findBelow(const wxWindow& parent, const wxWindow* known = nullptr)
 LoadedPlant::LoadedPlant(const std::string& definition)
     : document(folder.input("plant.json", fullDatabaseJson()), folder.input("map.csv", definition), 0)
 {
-    openDocument(document);
+    document.loadDatabase();
+    document.loadDefinition();
 }
 
 DrivenFrame::DrivenFrame(const std::string& definition)
-    : LoadedPlant(definition), MainFrame(LoadedPlant::document, "/suite/"), tagGrid(findBelow<wxGrid>(*this, mapGrid)),
-      filter(findBelow<wxTextCtrl>(*this))
+    : LoadedPlant(definition), MainFrame(LoadedPlant::document, "/suite/"), tagGrid(gridBeside(mapGrid, *this)),
+      filter(firstBelow<wxTextCtrl>(*this))
 {
 }
 

@@ -1,6 +1,6 @@
 #include "files/ReadFile.h"
 
-#include "text/LargePages.h"
+#include "memory/LargePages.h"
 
 #include <array>
 #include <cstdint>

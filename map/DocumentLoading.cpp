@@ -1,6 +1,6 @@
 #include "map/DocumentLoading.h"
 
-#include "text/FreePages.h"
+#include "memory/FreePages.h"
 
 // Not one thread for both files: the list of tags is shown as soon as it is there, and a thread that only waits costs
 // nothing.

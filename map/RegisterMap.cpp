@@ -15,14 +15,7 @@
 // address is what makes the four belong together: it leads from any of them to the head, where the object's registers
 // begin.
 
-RegisterMap::RegisterMap() : spaces(freeSpaces()), snapshot(spaceCount) {}
-
-RegisterMap RegisterMap::withoutSnapshot()
-{
-    RegisterMap map;
-    map.snapshot.clear();
-    return map;
-}
+RegisterMap::RegisterMap() : spaces(freeSpaces()) {}
 
 std::unique_ptr<RegisterMap::Spaces> RegisterMap::freeSpaces()
 {
@@ -81,16 +74,15 @@ void RegisterMap::placeObject(RegisterSpace space, int start, const RegisterEntr
 
 void RegisterMap::takeSnapshot()
 {
-    if (snapshot.empty())
-        return;
     // Comparing is then one pass over memory, and no command has to keep a list of changes.
-    std::vector<SlotRuns> taken(spaces->begin(), spaces->end());
+    std::array<SlotRuns, spaceCount> taken;
+    std::transform(spaces->begin(), spaces->end(), taken.begin(),
+                   [](const RegisterSlots& slots) { return SlotRuns(slots); });
     snapshot = std::move(taken);
 }
 
 bool RegisterMap::isModified() const
 {
-    return !snapshot.empty() &&
-           !std::equal(spaces->begin(), spaces->end(), snapshot.begin(),
+    return !std::equal(spaces->begin(), spaces->end(), snapshot.begin(),
                        [](const RegisterSlots& slots, const SlotRuns& saved) { return saved.match(slots); });
 }

@@ -2,7 +2,7 @@
 
 #include "map/RegisterSlots.h"
 #include "map/SlotRuns.h"
-#include "text/LargePages.h"
+#include "memory/LargePages.h"
 
 #include <array>
 #include <memory>
@@ -25,10 +25,6 @@ class RegisterMap
 public:
     /// A map of free slots with a snapshot of free slots.
     RegisterMap();
-
-    /// A map of free slots for a program that reads and never edits. It has no snapshot and takes none, and counts as
-    /// never modified.
-    static RegisterMap withoutSnapshot();
 
     /// Frees every slot, shows Holding, empties the clipboard and the error count. View mode and snapshot stay.
     void initialise();
@@ -83,5 +79,5 @@ private:
     static std::unique_ptr<Spaces> freeSpaces();
 
     std::unique_ptr<Spaces> spaces;
-    std::vector<SlotRuns> snapshot; ///< of each space; empty in a map without
+    std::array<SlotRuns, spaceCount> snapshot;
 };

@@ -21,7 +21,7 @@ namespace
 /// What reading a file gave.
 struct ReadMap
 {
-    RegisterMap map = RegisterMap::withoutSnapshot();
+    RegisterMap map;
     PlacedLines lines;
     Findings findings; ///< what the lines show, each by itself
 };

@@ -42,9 +42,11 @@ std::string_view TagSearchIndex::text(std::size_t index) const
     return std::string_view(texts).substr(ends[index], ends[index + 1] - ends[index]);
 }
 
-std::vector<int> filterTags(const TagTable& tags, const TagSearchIndex& index, const TagFilter& filter)
+std::vector<int> filterTags(const TagTable& tags, std::optional<TagSearchIndex>& index, const TagFilter& filter)
 {
     const bool anyText = filter.text.empty();
+    if (!anyText && !index)
+        index.emplace(tags);
     // The stars around it make it a search for a piece of the text. No letter has "*" or "?" for its capital: what was
     // typed as a wildcard is one, and nothing else is.
     const std::string pattern = toUpperCase("*" + filter.text + "*");
@@ -55,7 +57,8 @@ std::vector<int> filterTags(const TagTable& tags, const TagSearchIndex& index, c
         // The prefix comes from the tree, not from a keyboard: its letter case counts. The searches come last, as they
         // take the most time and need not be made for a tag that another part of the filter hides.
         if (record.name.view().starts_with(filter.prefix) && belongsToAll(record, filter.checkedMasks) &&
-            (anyText || matchesWildcard(pattern, index.name(tag)) || matchesWildcard(pattern, index.description(tag))))
+            (anyText || matchesWildcard(pattern, index->name(tag)) ||
+             matchesWildcard(pattern, index->description(tag))))
             shown.push_back(tag);
     }
     return shown;

@@ -1,11 +1,12 @@
-# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> json -> files -> text, and
-# beside the windows tool -> review -> map; and that no header of the toolkit is included outside ui/ and app/.
+# Proves that the includes of every folder point downwards: app -> ui -> map -> source -> json -> files -> text ->
+# memory, and beside the windows tool -> review -> map; and that no header of the toolkit is included outside ui/ and
+# app/.
 # Run as a script: cmake -DSOURCE_DIR=dir -P layers.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
 # Each folder of the core may include those before it, and every folder above may include all of them.
-set(core text files json source map)
+set(core memory text files json source map)
 set(below "")
 foreach(layer IN LISTS core)
     list(APPEND below "${layer}")

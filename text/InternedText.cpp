@@ -1,6 +1,6 @@
 #include "text/InternedText.h"
 
-#include "text/LargePages.h"
+#include "memory/LargePages.h"
 
 #include <algorithm>
 #include <array>

@@ -23,8 +23,8 @@ ExitCode resultOf(const std::vector<ObjectChange>& changes)
 std::optional<ChangeReport> compare(const std::string& before, const std::string& after, const DiffOptions& options)
 {
     TagDatabase database;
-    RegisterMap oldMap = RegisterMap::withoutSnapshot();
-    RegisterMap newMap = RegisterMap::withoutSnapshot();
+    RegisterMap oldMap;
+    RegisterMap newMap;
     UnsizedTexts oldUnsized;
     UnsizedTexts newUnsized;
     if (!readDatabase(options.databasePath, database) || !readMap(before, database.tags, oldMap, oldUnsized) ||

@@ -76,7 +76,7 @@ ExitCode exportTo(const ExportOptions& options)
     if (isInput(options))
         return refuse(options, "is read from and not written over");
     TagDatabase database;
-    RegisterMap map = RegisterMap::withoutSnapshot();
+    RegisterMap map;
     UnsizedTexts unsized;
     if (!readDatabase(options.databasePath, database) || !readMap(options.mapPath, database.tags, map, unsized))
         return ExitCode::Failed;

@@ -6,11 +6,12 @@
 #include "ui/CommandTable.h"
 #include "ui/Desktop.h"
 #include "ui/ImageButton.h"
+#include "ui/MessageBox.h"
 #include "ui/NamedImages.h"
-#include "ui/OpenDocument.h"
 #include "ui/PanelControls.h"
 #include "ui/SourceBrowser.h"
 #include "ui/SpaceButtons.h"
+#include "ui/ToolkitText.h"
 #include "ui/grid/EmptyGridHint.h"
 #include "ui/grid/MapGridTable.h"
 
@@ -28,6 +29,14 @@ constexpr const char* documentationSubfolder = "varnokconfigure\\DOCUMENTATION";
 /// Pixels between groups of buttons.
 constexpr int wideGap = 20;
 constexpr int narrowGap = 7;
+
+/// Tells the user what is wrong with the tag database; says nothing when it was loaded.
+void tellWhyNotLoaded(LoadResult result)
+{
+    // A start without the option is told so too: an editor without tags is rarely what was meant.
+    if (result != LoadResult::Loaded)
+        messageBox(toolkitText(loadMessage(result)), "Message");
+}
 
 } // namespace
 

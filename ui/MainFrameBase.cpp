@@ -141,9 +141,8 @@ void MainFrameBase::OnSize(wxSizeEvent& event)
 {
     // Toolkit 3.2 with GTK gives a window that is maximised before it is shown the size of its frame alone, twice. All
     // controls would be laid out for no room, and again a moment later.
-    if (!GetClientSize().IsFullySpecified() || GetClientSize().GetWidth() <= 1)
-        return;
-    event.Skip();
+    if (GetClientSize().GetWidth() > 1)
+        event.Skip();
 }
 
 void MainFrameBase::fitColumns()

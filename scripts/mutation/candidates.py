@@ -13,7 +13,7 @@ WEIGHTS = {"map": 2.5, "source": 2.0, "json": 2.0, "files": 2.0, "files/posix": 
 # The files of ui/ that decide something; the others lay out and paint.
 WINDOW_FILES = [
     "ui/ByteSwapHelp.cpp", "ui/CommandTable.cpp", "ui/MainFrame.cpp", "ui/MainFrameDialogs.cpp", "ui/MainFrameEditing.cpp",
-    "ui/MainFrameMenus.cpp", "ui/MainFrameView.cpp", "ui/OpenDocument.cpp", "ui/RegisterEditor.cpp", "ui/RescueKeeper.cpp",
+    "ui/MainFrameMenus.cpp", "ui/MainFrameView.cpp", "ui/RegisterEditor.cpp", "ui/RescueKeeper.cpp",
     "ui/SettingsDialog.cpp", "ui/SourceBrowser.cpp", "ui/grid/CellText.cpp", "ui/grid/GridCellStyles.cpp",
     "ui/grid/GridScrolling.cpp", "ui/grid/GridSelection.cpp", "ui/grid/MapGridTable.cpp", "ui/grid/RowCellRenderer.cpp",
     "ui/grid/TagGridTable.cpp", "ui/grid/VirtualGridTable.cpp",

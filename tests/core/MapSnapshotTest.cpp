@@ -134,13 +134,3 @@ TEST(MapSnapshot, IsACopyThatLaterChangesDoNotReach)
     map->slots(RegisterSpace::Coil)[1].description = InternedText("Level of tank 1");
     EXPECT_FALSE(map->isModified());
 }
-
-TEST(MapSnapshot, MapWithoutOneIsNeverModified)
-{
-    RegisterMap map = RegisterMap::withoutSnapshot();
-    map.placeObject(RegisterSpace::Holding, 7, freeSlot(7), 1);
-    EXPECT_TRUE(map.slots(RegisterSpace::Holding)[7].used);
-    EXPECT_FALSE(map.isModified());
-    map.takeSnapshot();
-    EXPECT_FALSE(map.isModified());
-}

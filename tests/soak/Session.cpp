@@ -1,7 +1,6 @@
 #include "tests/soak/Session.h"
 
 #include "benchmarks/FullSize.h"
-#include "ui/OpenDocument.h"
 
 #include <wx/filedlg.h>
 
@@ -26,7 +25,8 @@ void Session::open(bool anew)
     if (anew)
         folder.write("map.csv", mapOfObjects());
     shown = std::make_unique<Document>(folder / "plant.json", folder / "map.csv", 0);
-    openDocument(*shown);
+    shown->loadDatabase();
+    shown->loadDefinition();
     window = new WorkedFrame(*shown, [this](wxWindow*, const FileQuestion& question) { return chooseFile(question); });
     window->Maximize();
     window->Show();

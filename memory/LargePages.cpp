@@ -1,4 +1,4 @@
-#include "text/LargePages.h"
+#include "memory/LargePages.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "text/FreePages.h"
+#include "memory/FreePages.h"
 
 #include <cstdlib>
 
