@@ -16,11 +16,6 @@
 namespace
 {
 
-constexpr bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool take(std::string_view& text, char c)
 {
     if (!text.starts_with(c))

@@ -2,6 +2,7 @@
 
 #include "files/ReadFile.h"
 #include "files/SafeWrite.h"
+#include "map/ByteOrderWords.h"
 #include "map/DefinitionReader.h"
 #include "map/PublishedName.h"
 #include "map/WrittenBack.h"
@@ -26,24 +27,6 @@
 
 namespace
 {
-
-void appendOrder(std::string& text, const RegisterEntry& head)
-{
-    const std::size_t begin = text.size();
-    const auto append = [&](bool set, std::string_view name)
-    {
-        if (!set)
-            return;
-        if (text.size() > begin)
-            text += '+';
-        text += name;
-    };
-    append(head.SwapBytes, "BYTES");
-    append(head.SwapWords, "WORDS");
-    append(head.SwapLongs, "LONGS");
-    if (text.size() == begin)
-        text += "NONE";
-}
 
 void appendLine(std::string& text, RegisterSpace space, const RegisterEntry& head)
 {
@@ -80,7 +63,7 @@ void appendDefinitionLine(std::string& text, RegisterSpace space, const Register
     text += ',';
     text += addressText(head.address);
     text += ',';
-    appendOrder(text, head);
+    appendByteOrder(text, head);
     text += ',';
     text += typeName(head.type);
     text += ',';
@@ -89,7 +72,9 @@ void appendDefinitionLine(std::string& text, RegisterSpace space, const Register
     text += head.description.view();
     text += ',';
     text += std::to_string(static_cast<std::int32_t>(head.registerCount));
-    text += head.locked ? ",LOCKED," : ",UNLOCKED,";
+    text += ',';
+    text += lockWord(head.locked);
+    text += ',';
     text += valid ? "OK" : "ERROR";
 }
 

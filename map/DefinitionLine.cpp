@@ -1,5 +1,6 @@
 #include "map/DefinitionLine.h"
 
+#include "map/ByteOrderWords.h"
 #include "map/PublishedName.h"
 #include "text/Integers.h"
 
@@ -48,12 +49,12 @@ LineMeaning lineMeaning(const DefinitionFields& fields)
     DefinitionObject object;
     object.space = *space;
     object.type = typeFromName(fields.type);
-    object.locked = fields.lock.starts_with("LOCKED");
+    object.locked = fields.lock.starts_with(lockWord(true));
     object.write = write;
     // The words count wherever they stand in the field, so their order and what joins them do not matter.
-    object.SwapBytes = contains(fields.order, "BYTES");
-    object.SwapWords = contains(fields.order, "WORDS");
-    object.SwapLongs = contains(fields.order, "LONGS");
+    object.SwapBytes = contains(fields.order, swapBytesWord);
+    object.SwapWords = contains(fields.order, swapWordsWord);
+    object.SwapLongs = contains(fields.order, swapLongsWord);
     // Zeros in front do not make it octal, and a number outside the space is kept: some registers may lie inside.
     object.start = parseInteger(fields.address);
     object.count = count;

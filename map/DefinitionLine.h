@@ -8,6 +8,12 @@
 
 /// What one line of a definition file says.
 
+/// The word that says whether an object is locked.
+constexpr std::string_view lockWord(bool locked)
+{
+    return locked ? "LOCKED" : "UNLOCKED";
+}
+
 /// The nine fields of a definition line, as texts.
 struct DefinitionFields
 {

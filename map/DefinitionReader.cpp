@@ -4,37 +4,12 @@
 #include "text/Lines.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 
 namespace
 {
-
-constexpr std::size_t fullForm = 9;
-constexpr std::size_t formWithoutLock = 7;
-constexpr std::size_t formWithoutCount = 6;
-
-/// The fields of one line. One more than the full form is kept, enough to tell that a line has too many.
-struct SplitLine
-{
-    std::array<std::string_view, fullForm + 1> fields;
-    std::size_t count = 0;
-};
-
-/// Splits at every comma; an empty field after a final comma is not counted.
-SplitLine splitLine(std::string_view line)
-{
-    SplitLine split;
-    while (!line.empty() && split.count < split.fields.size())
-    {
-        const std::size_t comma = line.find(',');
-        split.fields[split.count++] = line.substr(0, comma);
-        line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
-    }
-    return split;
-}
 
 /// Registers of a STRING whose line does not say: the size of the database tag of that name.
 std::optional<std::uint32_t> stringRegistersFromDatabase(std::string_view tagnameField, const TagTable& tags)
@@ -61,7 +36,7 @@ DefinitionFields fieldsOf(const SplitLine& split)
 {
     const auto& f = split.fields;
     // What the short forms do not say is taken as unlocked and sound.
-    DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], "UNLOCKED", "OK"};
+    DefinitionFields fields{f[0], f[1], f[2], f[3], f[4], f[5], f[6], lockWord(false), "OK"};
     if (split.count == fullForm)
     {
         fields.lock = f[7];
@@ -95,6 +70,18 @@ void readLine(DefinitionFileLine& line, DefinitionPlacer& placer, const TagTable
 }
 
 } // namespace
+
+SplitLine splitLine(std::string_view line)
+{
+    SplitLine split;
+    while (!line.empty() && split.count < split.fields.size())
+    {
+        const std::size_t comma = line.find(',');
+        split.fields[split.count++] = line.substr(0, comma);
+        line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
+    }
+    return split;
+}
 
 bool readDefinition(std::string_view text, RegisterMap& map, const TagTable& tags, const LineObserver& observer)
 {

@@ -4,11 +4,27 @@
 #include "map/RegisterMap.h"
 #include "source/TagTable.h"
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <string_view>
 
 /// Reading the lines of a definition file: the one place that knows which of them count.
+
+/// How many fields a line has that describes an object.
+constexpr std::size_t fullForm = 9;
+constexpr std::size_t formWithoutLock = 7;  ///< ends after the register count
+constexpr std::size_t formWithoutCount = 6; ///< ends after the description
+
+/// The fields of one line. One more than the full form is kept, enough to tell that a line has too many.
+struct SplitLine
+{
+    std::array<std::string_view, fullForm + 1> fields; ///< empty from `count` on
+    std::size_t count = 0;
+};
+
+/// Splits at every comma; an empty field after a final comma is not counted.
+SplitLine splitLine(std::string_view line);
 
 /// A line of a definition file and what the reader made of it.
 struct DefinitionFileLine

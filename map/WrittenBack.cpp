@@ -1,5 +1,8 @@
 #include "map/WrittenBack.h"
 
+#include "map/ByteOrderWords.h"
+#include "text/Characters.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -17,19 +20,20 @@ bool saysAnything(std::string_view line)
 
 bool isNumber(std::string_view field)
 {
-    return !field.empty() && std::all_of(field.begin(), field.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return !field.empty() && std::ranges::all_of(field, isDigit);
 }
 
 bool isOrderWrittenBack(std::string_view order, const DefinitionObject& object)
 {
     const auto names = std::ranges::count(std::array{object.SwapBytes, object.SwapWords, object.SwapLongs}, true);
     if (names == 0)
-        return order.empty() || order == "NONE";
+        return order.empty() || order == noSwapWord;
     // Each name is in it, so an order of as many characters, with a "+" between the names, says nothing else.
-    constexpr std::size_t nameLength = 5;
+    constexpr std::size_t nameLength = swapBytesWord.size();
+    static_assert(swapWordsWord.size() == nameLength && swapLongsWord.size() == nameLength);
     for (std::size_t plus = nameLength; plus < order.size(); plus += nameLength + 1)
     {
-        if (order[plus] != '+')
+        if (order[plus] != swapWordJoint)
             return false;
     }
     return std::ssize(order) == names * static_cast<std::ptrdiff_t>(nameLength) + names - 1;
@@ -46,7 +50,7 @@ bool isCountWrittenBack(std::string_view count, const DefinitionObject& object)
 
 bool isLockWrittenBack(std::string_view lock, const DefinitionObject& object)
 {
-    return lock.empty() || lock == (object.locked ? "LOCKED" : "UNLOCKED");
+    return lock.empty() || lock == lockWord(object.locked);
 }
 
 /// The status is judged anew at every start, so nothing is lost with it. Any other word is a remark.

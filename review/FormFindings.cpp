@@ -1,6 +1,7 @@
 #include "review/FormFindings.h"
 
 #include "map/DefinitionFile.h"
+#include "map/DefinitionReader.h"
 #include "text/Lines.h"
 
 #include <array>
@@ -16,28 +17,21 @@ bool ownsItsHead(std::size_t line, const DefinitionObject& object, const LineOwn
            owners.at(object.space, object.start) == static_cast<std::int32_t>(line);
 }
 
-constexpr std::array<std::string_view, 9> fieldNames{"space",       "address",        "byte order", "type",  "tagname",
-                                                     "description", "register count", "lock",       "status"};
-
-/// The first field of a line, which is taken off.
-std::string_view takeField(std::string_view& line)
-{
-    const std::size_t comma = line.find(',');
-    const std::string_view field = line.substr(0, comma);
-    line.remove_prefix(comma == std::string_view::npos ? line.size() : comma + 1);
-    return field;
-}
+constexpr std::array<std::string_view, fullForm> fieldNames{
+    "space", "address", "byte order", "type", "tagname", "description", "register count", "lock", "status"};
 
 /// What is different about a line of any form, with a colon behind it; empty when it is no field.
 std::string difference(std::string_view line, std::string_view written)
 {
+    const SplitLine is = splitLine(line);
+    if (is.count < fullForm)
+        return "short form: ";
+    const SplitLine willBe = splitLine(written);
     std::string names;
-    for (const std::string_view name : fieldNames)
+    for (std::size_t field = 0; field < fullForm; ++field)
     {
-        if (line.empty())
-            return "short form: ";
-        if (takeField(line) != takeField(written))
-            names += (names.empty() ? "" : ", ") + std::string(name);
+        if (is.fields[field] != willBe.fields[field])
+            names += (names.empty() ? "" : ", ") + std::string(fieldNames[field]);
     }
     return names.empty() ? names : names + ": ";
 }

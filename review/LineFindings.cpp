@@ -16,13 +16,12 @@ constexpr std::string_view commaHint = "; is there a comma in the description?";
 
 std::string fieldCountMessage(const DefinitionFileLine& line)
 {
-    constexpr std::size_t fullForm = 9;
     if (line.fieldCount > fullForm)
         return "dropped: more than 9 fields; is there a comma in the tagname or description?";
     const std::string message =
         "dropped: " + counted(static_cast<std::int64_t>(line.fieldCount), "field") + " where an object has 9, 7 or 6";
     // A comma too many makes eight of seven.
-    constexpr std::size_t oneTooMany = 8;
+    constexpr std::size_t oneTooMany = formWithoutLock + 1;
     return line.fieldCount == oneTooMany ? message + "; is there a comma in the tagname or description?" : message;
 }
 
@@ -42,23 +41,13 @@ std::string faultMessage(const DefinitionFileLine& line, LineFault fault)
     return "dropped";
 }
 
-/// True for what is read as the number that it looks like.
-bool isWholeNumber(std::string_view text)
-{
-    text = withoutLeadingBlanks(text);
-    if (text.starts_with('-') || text.starts_with('+'))
-        text.remove_prefix(1);
-    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 void appendNumberFindings(Findings& findings, const DefinitionFileLine& line, const PlacedLine& placed)
 {
     if (!isWholeNumber(line.fields.address))
         appendFinding(findings, placed, Rule::BadNumber,
                       "the address " + inQuotes(line.fields.address) + " is read as " +
                           std::to_string(placed.object.start));
-    constexpr std::size_t formWithCount = 7;
-    if (line.fieldCount < formWithCount || isWholeNumber(line.fields.count))
+    if (line.fieldCount == formWithoutCount || isWholeNumber(line.fields.count))
         return;
     const std::string count = "the register count " + inQuotes(line.fields.count);
     if (placed.object.type == DataType::String)
@@ -119,15 +108,14 @@ Finding droppedLineFinding(const DefinitionFileLine& line, LineFault fault)
 {
     Finding finding;
     finding.line = line.number;
-    if (withoutLeadingBlanks(line.text).empty())
+    if (isBlankLine(line.text))
     {
         finding.rule = Rule::BlankLine;
         finding.message = "blank line, gone after saving";
         return finding;
     }
     // With fewer fields there is no telling which of them stands for what.
-    constexpr std::size_t fieldsOfAnObject = 6;
-    if (line.fieldCount >= fieldsOfAnObject)
+    if (line.fieldCount >= formWithoutCount)
     {
         finding.space = line.fields.space;
         finding.address = parseInteger(line.fields.address);

@@ -137,7 +137,6 @@ int slipsBetween(std::string_view one, std::string_view other, int limit)
 
 bool differInDigitsOnly(std::string_view one, std::string_view other)
 {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     const auto same = [](char a, char b) { return lowerCase(a) == lowerCase(b); };
     if (std::ranges::equal(one, other, same))
         return false;

@@ -1,6 +1,6 @@
 #include "review/Overlaps.h"
 
-#include "review/OrderText.h"
+#include "map/ByteOrderWords.h"
 #include "text/Integers.h"
 
 #include <algorithm>
@@ -80,7 +80,7 @@ std::string takenOrder(const DefinitionObject& later, const DefinitionObject& ea
     taken.SwapWords = earlier.SwapWords && !later.SwapWords;
     taken.SwapLongs = earlier.SwapLongs && !later.SwapLongs;
     const bool any = taken.SwapBytes || taken.SwapWords || taken.SwapLongs;
-    return any ? ", and its byte order " + orderText(taken) : "";
+    return any ? ", and its byte order " + byteOrderText(taken) : "";
 }
 
 Finding overlapFinding(const PlacedLine& line, const PlacedLine& earlier, const Taken& taken)

@@ -1,6 +1,6 @@
 #include "review/WordFindings.h"
 
-#include "review/OrderText.h"
+#include "map/ByteOrderWords.h"
 #include "review/Wording.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr std::array<std::string_view, 4> orderWords{"NONE", "BYTES", "WORDS", "LONGS"};
+constexpr std::array<std::string_view, 4> orderWords{noSwapWord, swapBytesWord, swapWordsWord, swapLongsWord};
 
 /// The first word of a byte order that is none of the four; empty when there is none. Words are joined by "+" or
 /// blanks.
@@ -36,7 +36,7 @@ void appendOrderFinding(Findings& findings, const DefinitionFileLine& line, cons
     if (!word.empty())
         appendFinding(findings, placed, Rule::UnknownOrder,
                       inQuotes(word) + " is none of NONE, BYTES, WORDS, LONGS: the byte order " +
-                          inQuotes(line.fields.order) + " is read as " + orderText(placed.object));
+                          inQuotes(line.fields.order) + " is read as " + byteOrderText(placed.object));
 }
 
 } // namespace
@@ -49,8 +49,7 @@ void appendWordFindings(Findings& findings, const DefinitionFileLine& line, cons
                       "the type " + inQuotes(line.fields.type) + " is read as " + std::string(typeName(object.type)) +
                           " of " + counted(object.count, "register"));
     appendOrderFinding(findings, line, placed);
-    if (line.fields.lock != "LOCKED" && line.fields.lock != "UNLOCKED")
+    if (line.fields.lock != lockWord(true) && line.fields.lock != lockWord(false))
         appendFinding(findings, placed, Rule::UnknownLock,
-                      "the lock " + inQuotes(line.fields.lock) + " is read as " +
-                          (object.locked ? "LOCKED" : "UNLOCKED"));
+                      "the lock " + inQuotes(line.fields.lock) + " is read as " + std::string(lockWord(object.locked)));
 }

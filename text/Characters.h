@@ -24,6 +24,18 @@ constexpr std::string_view withoutOuterBlanks(std::string_view text)
     return withoutLeadingBlanks(text);
 }
 
+/// True for a line without anything to read.
+constexpr bool isBlankLine(std::string_view line)
+{
+    return withoutLeadingBlanks(line).empty();
+}
+
+/// True for the digits of decimal numbers.
+constexpr bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
 /// The small letter of one of the 26 capitals, everything else as it is: for words that the program itself knows.
 constexpr char lowerCase(char c)
 {

@@ -15,7 +15,7 @@ namespace
 /// The value of one hexadecimal digit, -1 for any other character.
 int digitValue(char c)
 {
-    if (c >= '0' && c <= '9')
+    if (isDigit(c))
         return c - '0';
     if (c >= 'a' && c <= 'f')
         return c - 'a' + 10;
@@ -39,12 +39,20 @@ std::int32_t parseInteger(std::string_view text)
     std::int64_t value = 0;
     for (const char c : text)
     {
-        if (c < '0' || c > '9')
+        if (!isDigit(c))
             break;
         // It stops growing at the limit, so a thousand digits do not overflow either.
         value = std::min(limit, value * 10 + (c - '0'));
     }
     return static_cast<std::int32_t>(negative ? -value : value);
+}
+
+bool isWholeNumber(std::string_view text)
+{
+    text = withoutLeadingBlanks(text);
+    if (text.starts_with('-') || text.starts_with('+'))
+        text.remove_prefix(1);
+    return !text.empty() && std::ranges::all_of(text, isDigit);
 }
 
 std::uint32_t parseHexadecimal(std::string_view text)

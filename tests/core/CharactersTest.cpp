@@ -25,3 +25,18 @@ TEST(Characters, OnlyThe26CapitalsHaveASmallLetter)
     for (const char c : {'a', 'z', '@', '[', '`', '0', '_', '\xC4'})
         EXPECT_EQ(lowerCase(c), c);
 }
+
+TEST(Characters, ALineOfBlanksOnlyIsBlank)
+{
+    EXPECT_TRUE(isBlankLine(""));
+    EXPECT_TRUE(isBlankLine(" \t\r"));
+    EXPECT_FALSE(isBlankLine(" ,"));
+}
+
+TEST(Characters, DigitsAreThoseOfDecimalNumbers)
+{
+    for (const char c : {'0', '5', '9'})
+        EXPECT_TRUE(isDigit(c)) << c;
+    for (const char c : {'/', ':', 'a', ' ', '\xB2'})
+        EXPECT_FALSE(isDigit(c)) << c;
+}

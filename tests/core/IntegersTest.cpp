@@ -65,6 +65,14 @@ TEST(ParseInteger, LookingAtPartOfATextStopsAtItsEnd)
     EXPECT_EQ(parseInteger(text.substr(1, 2)), 23);
 }
 
+TEST(IsWholeNumber, IsTrueForWhatIsReadAsItLooks)
+{
+    for (const char* const text : {"0", "00010", "-2", "+2", " \t7", "2147483648"})
+        EXPECT_TRUE(isWholeNumber(text)) << text;
+    for (const char* const text : {"", " ", "-", "--2", "3x", "12.9", "7 ", "0x10", "1e5", "\u00a05"})
+        EXPECT_FALSE(isWholeNumber(text)) << text;
+}
+
 TEST(ParseHexadecimal, ReadsDigitsOfBothCasesUpToTheFirstOtherCharacter)
 {
     EXPECT_EQ(parseHexadecimal("1aF"), 0x1AFU);
