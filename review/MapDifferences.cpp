@@ -53,7 +53,7 @@ std::vector<ChangeKind> kindsOf(const MapObject& before, const MapObject& after,
     };
     append(before.space != after.space || was.address != is.address, ChangeKind::Moved);
     append(was.type != is.type, ChangeKind::Retyped);
-    append(before.sized && after.sized && was.registerCount != is.registerCount, ChangeKind::Resized);
+    append(before.isLengthKnown && after.isLengthKnown && was.registerCount != is.registerCount, ChangeKind::Resized);
     append(overwritten, ChangeKind::Overwritten);
     append(uncovered, ChangeKind::Uncovered);
     append(byteOrderCharacters(was) != byteOrderCharacters(is), ChangeKind::ByteOrder);

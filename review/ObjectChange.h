@@ -29,7 +29,7 @@ struct MapObject
 {
     RegisterSpace space = RegisterSpace::Coil;
     RegisterEntry head;
-    bool sized = true; ///< false for a text whose length is not known; it then counts one register
+    bool isLengthKnown = true; ///< false for some texts, which then count one register
 };
 
 /// An object that is not the same in two maps.

@@ -17,7 +17,7 @@ void writeObject(JsonText& json, std::string_view name, const std::optional<MapO
     json.member("address", head.address);
     json.member("tagname", head.tagname.view());
     json.member("type", typeName(head.type));
-    if (object->sized)
+    if (object->isLengthKnown)
         json.member("registers", static_cast<std::int32_t>(head.registerCount));
     json.member("byteOrder", std::string_view(order.data(), order.size()));
     json.memberIs("write", head.write);

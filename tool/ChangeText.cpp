@@ -20,7 +20,7 @@ std::string countOf(const MapObject& object)
 /// How long an object is that came or went.
 std::string lengthOf(const MapObject& object)
 {
-    if (!object.sized)
+    if (!object.isLengthKnown)
         return "of unknown length";
     return counted(static_cast<std::int32_t>(object.head.registerCount), "register");
 }

@@ -27,14 +27,6 @@ std::optional<std::string> cannotRead(const std::string& path, const std::string
     return std::nullopt;
 }
 
-/// The last line that begins at an address says whether the length of what is there is known.
-void noteLength(const DefinitionFileLine& line, UnsizedTexts& unsized)
-{
-    const auto* const object = std::get_if<DefinitionObject>(&line.meaning);
-    if (object != nullptr && RegisterSlots::contains(object->start))
-        unsized.set(object->space, object->start, line.isLengthGuessed);
-}
-
 } // namespace
 
 std::string shownPath(const std::string& path)
@@ -98,9 +90,9 @@ bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, Un
     readDefinition(text, map, tags,
                    [&](const DefinitionFileLine& line)
                    {
-                       if (!withoutLeadingBlanks(line.text).empty() && std::holds_alternative<LineFault>(line.meaning))
+                       if (!isBlankLine(line.text) && std::holds_alternative<LineFault>(line.meaning))
                            ++dropped;
-                       noteLength(line, unsized);
+                       unsized.take(line);
                    });
     if (dropped > 0)
         tell(shownPath(path) + ": lines left out as the editor does: " + std::to_string(dropped) +
