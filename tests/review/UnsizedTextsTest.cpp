@@ -15,7 +15,7 @@ UnsizedTexts unsizedTextsOf(const std::vector<std::string>& lines)
     return unsized;
 }
 
-const std::string unsizedText = "HOLDING,100,NONE,STRING,UNKNOWN,";
+const std::string unsizedText = "HOLDING,100,NONE,STRING,UNKNOWN,Words";
 
 } // namespace
 
@@ -30,18 +30,20 @@ TEST(UnsizedTexts, HoldATextWhoseLineGivesNoLengthAndWhoseTagIsNotKnown)
 
 TEST(UnsizedTexts, HoldNoneWhoseLengthIsGiven)
 {
-    EXPECT_TRUE(unsizedTextsOf({"HOLDING,100,NONE,STRING,UNKNOWN,,4", "HOLDING,110,NONE,FLOAT,UNKNOWN,"}).isEmpty());
+    EXPECT_TRUE(
+        unsizedTextsOf({"HOLDING,100,NONE,STRING,UNKNOWN,,4", "HOLDING,110,NONE,FLOAT,UNKNOWN,Words"}).isEmpty());
 }
 
 TEST(UnsizedTexts, GoByTheLastLineThatBeginsAtAnAddress)
 {
-    EXPECT_TRUE(unsizedTextsOf({unsizedText, "HOLDING,100,NONE,FLOAT,SPEED,"}).isEmpty());
-    EXPECT_FALSE(unsizedTextsOf({"HOLDING,100,NONE,FLOAT,SPEED,", unsizedText}).isEmpty());
+    EXPECT_TRUE(unsizedTextsOf({unsizedText, "HOLDING,100,NONE,FLOAT,SPEED,Words"}).isEmpty());
+    EXPECT_FALSE(unsizedTextsOf({"HOLDING,100,NONE,FLOAT,SPEED,Words", unsizedText}).isEmpty());
 }
 
 TEST(UnsizedTexts, PassOverLinesWithoutAnObjectInTheSpace)
 {
-    EXPECT_TRUE(unsizedTextsOf({"HOLDING,65536,NONE,STRING,UNKNOWN,", "HOLDING,-1,NONE,STRING,UNKNOWN,", "", "HOLDING"})
+    EXPECT_TRUE(unsizedTextsOf(
+                    {"HOLDING,65536,NONE,STRING,UNKNOWN,Words", "HOLDING,-1,NONE,STRING,UNKNOWN,Words", "", "HOLDING"})
                     .isEmpty());
     EXPECT_FALSE(unsizedTextsOf({unsizedText, "HOLDING,100,NONE"}).isEmpty());
 }
