@@ -1,6 +1,7 @@
 #include "review/NearestTag.h"
 
 #include "tests/core/Chance.h"
+#include "tests/core/TagBuilder.h"
 #include "text/Characters.h"
 
 #include <gtest/gtest.h>
@@ -11,20 +12,8 @@
 namespace
 {
 
-TagTable tableOf(std::initializer_list<std::string_view> names)
-{
-    TagTable tags;
-    for (const std::string_view name : names)
-    {
-        TagRecord tag;
-        tag.name = InternedText(name);
-        tags.append(tag);
-    }
-    return tags;
-}
-
 /// The name that is suggested, "none" for none.
-std::string suggested(std::string_view name, std::initializer_list<std::string_view> names)
+std::string suggested(std::string_view name, std::initializer_list<const char*> names)
 {
     const TagTable tags = tableOf(names);
     const std::optional<int> index = NearestTag(tags).find(name);
@@ -126,11 +115,7 @@ TEST(NearestTag, LeavesOffOnceItHasComparedSoManyNames)
 {
     TagTable tags;
     for (int i = 0; i < tagCapacity; ++i)
-    {
-        TagRecord tag;
-        tag.name = InternedText("TAG_" + std::to_string(10'000'000 + i));
-        tags.append(tag);
-    }
+        tags.append(tagOf("TAG_" + std::to_string(10'000'000 + i)));
     NearestTag nearest(tags);
     EXPECT_EQ(nearest.find("TAG_1000000_"), 0);
     EXPECT_FALSE(nearest.isSpent());
@@ -147,13 +132,7 @@ TEST(NearestTag, IsNoNameThatDiffersInDigitsOnly)
     EXPECT_FALSE(differInDigitsOnly("PUMP_9", "pump_9"));
     EXPECT_FALSE(differInDigitsOnly("PUMP_O", "PUMP_0"));
     EXPECT_FALSE(differInDigitsOnly("P03_STRAT", "P03_START"));
-    TagTable tags;
-    for (const char* name : {"INT_P01_START_CMD", "INT_P01_STOP_CMD"})
-    {
-        TagRecord tag;
-        tag.name = InternedText(name);
-        tags.append(tag);
-    }
+    const TagTable tags = tableOf({"INT_P01_START_CMD", "INT_P01_STOP_CMD"});
     NearestTag nearest(tags);
     EXPECT_EQ(nearest.find("INT_P03_START_CMD"), std::nullopt);
     EXPECT_EQ(nearest.find("INT_P01_STRAT_CMD"), 0);

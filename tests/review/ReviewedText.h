@@ -1,6 +1,7 @@
 #pragma once
 
 #include "review/MapReview.h"
+#include "tests/core/TagBuilder.h"
 #include "text/Lines.h"
 
 #include <algorithm>
@@ -12,18 +13,9 @@
 inline TagTable smallDatabase()
 {
     TagTable tags;
-    const auto add = [&](std::string_view name, TagType type, std::uint8_t size, std::int32_t elements)
-    {
-        TagRecord tag;
-        tag.name = InternedText(name);
-        tag.type = type;
-        tag.size = size;
-        tag.elements = elements;
-        tags.append(tag);
-    };
-    add("PUMP_SPEED", TagType::Numeric, 4, 2);
-    add("TANK_LEVEL", TagType::Integer, 2, 1);
-    add("PLC_NAME", TagType::String, 7, 1);
+    tags.append(tagOf("PUMP_SPEED", TagType::Numeric, 4, 2));
+    tags.append(tagOf("TANK_LEVEL", TagType::Integer, 2));
+    tags.append(tagOf("PLC_NAME", TagType::String, 7));
     return tags;
 }
 
