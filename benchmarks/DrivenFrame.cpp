@@ -2,6 +2,7 @@
 
 #include "benchmarks/FullSize.h"
 #include "tests/ui/ControlsBelow.h"
+#include "ui/SourceBrowser.h"
 
 #include <gdk/gdk.h>
 #include <wx/app.h>
@@ -9,18 +10,6 @@
 #include <wx/textctrl.h>
 
 #include <memory>
-#include <vector>
-
-namespace
-{
-
-wxGrid* gridBeside(const wxGrid* mapGrid, const wxWindow& frame)
-{
-    const std::vector<wxGrid*> grids = controlsBelow<wxGrid>(frame);
-    return grids.front() == mapGrid ? grids.back() : grids.front();
-}
-
-} // namespace
 
 LoadedPlant::LoadedPlant(const std::string& definition)
     : document(folder.input("plant.json", fullDatabaseJson()), folder.input("map.csv", definition), 0)
@@ -30,8 +19,8 @@ LoadedPlant::LoadedPlant(const std::string& definition)
 }
 
 DrivenFrame::DrivenFrame(const std::string& definition)
-    : LoadedPlant(definition), MainFrame(LoadedPlant::document, "/suite/"), tagGrid(gridBeside(mapGrid, *this)),
-      filter(firstBelow<wxTextCtrl>(*this))
+    : LoadedPlant(definition), MainFrame(LoadedPlant::document, "/suite/"),
+      tagGrid(firstBelow<wxGrid>(*firstBelow<SourceBrowser>(*this))), filter(firstBelow<wxTextCtrl>(*this))
 {
 }
 

@@ -35,7 +35,6 @@ try
 
     // The program looks for the suite's key file; the build tree has one.
     wxSetEnv("XDG_CONFIG_DIRS", TOLVANE_BENCH_CONFIG);
-    // Its main loop is never run: the benchmarks handle its events when they want them handled.
     wxApp::SetInstance(new EditorApplication);
     if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit())
         return EXIT_FAILURE;

@@ -1,11 +1,9 @@
 #include "tests/soak/Session.h"
 
 #include "benchmarks/FullSize.h"
+#include "files/ReadFile.h"
 
 #include <wx/filedlg.h>
-
-#include <fstream>
-#include <iterator>
 
 Session::Session(Chance& picks) : chance(picks)
 {
@@ -36,8 +34,7 @@ void Session::open(bool anew)
 
 std::string Session::savedText() const
 {
-    std::ifstream file(folder / "map.csv", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return readFile(folder / "map.csv").value_or("no file");
 }
 
 wxString Session::chooseFile(const FileQuestion& question)

@@ -71,22 +71,15 @@ void WorkedFrame::press(wxGrid& grid, int key, bool controlDown)
 void WorkedFrame::pressMapButton(const wxString& tooltip)
 {
     const auto* const inTopBar = dynamic_cast<const wxWindow*>(topBar);
-    for (wxBitmapButton* const button : controlsBelow<wxBitmapButton>(*inTopBar))
-    {
-        if (button->GetToolTipText() == tooltip)
-            return pressButton(*button);
-    }
-    pressButtonBelow(*splitter->GetWindow2(), tooltip);
+    const bool isInTopBar = !buttonsCalled(*inTopBar, tooltip).empty();
+    pressButtonBelow(isInTopBar ? *inTopBar : *splitter->GetWindow2(), tooltip);
 }
 
 void WorkedFrame::pressButtonBelow(const wxWindow& side, const wxString& tooltip)
 {
-    for (wxBitmapButton* const button : controlsBelow<wxBitmapButton>(side))
-    {
-        if (button->GetToolTipText() == tooltip)
-            return pressButton(*button);
-    }
-    wxFAIL_MSG("no button " + tooltip);
+    const std::vector<wxBitmapButton*> found = buttonsCalled(side, tooltip);
+    wxCHECK_RET(!found.empty(), "no button " + tooltip);
+    pressButton(*found.front());
 }
 
 void WorkedFrame::doubleClick(int row)

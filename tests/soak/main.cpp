@@ -48,7 +48,6 @@ std::optional<SoakPlan> planOf(std::vector<std::string_view> arguments)
 
 bool runInApplication(int& argc, char** argv, const SoakPlan& plan)
 {
-    // Its main loop is never run: events are handled between the steps.
     wxApp::SetInstance(new EditorApplication);
     if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit())
         return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/bmpbuttn.h>
 #include <wx/window.h>
 
 #include <stdexcept>
@@ -28,4 +29,12 @@ Control* firstBelow(const wxWindow& parent)
     if (found.empty())
         throw std::invalid_argument("no such control");
     return found.front();
+}
+
+/// The buttons below a window that have that tooltip.
+inline std::vector<wxBitmapButton*> buttonsCalled(const wxWindow& window, const wxString& tooltip)
+{
+    std::vector<wxBitmapButton*> buttons = controlsBelow<wxBitmapButton>(window);
+    std::erase_if(buttons, [&](const wxBitmapButton* button) { return button->GetToolTipText() != tooltip; });
+    return buttons;
 }

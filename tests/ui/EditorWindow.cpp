@@ -1,5 +1,6 @@
 #include "tests/ui/EditorWindow.h"
 
+#include "files/ReadFile.h"
 #include "tests/ui/ControlsBelow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
@@ -15,9 +16,6 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 #include <wx/uiaction.h>
-
-#include <fstream>
-#include <iterator>
 
 namespace
 {
@@ -36,14 +34,6 @@ constexpr std::string_view databaseText = R"({
   {"Name": "PUMP_NAME", "Description": "Maker", "Type": "String", "Size": 6, "Elements": 2, "Groups": 0},
   {"Name": "TANK_LEVEL", "Description": "Level", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 0},
   {"Name": "TANK_HIGH", "Description": "Level high", "Type": "Integer", "Size": 2, "Elements": 1, "Groups": 3}]})";
-
-/// The buttons below a window that have a tooltip.
-std::vector<wxBitmapButton*> buttonsCalled(const wxWindow& window, const wxString& tooltip)
-{
-    std::vector<wxBitmapButton*> buttons = controlsBelow<wxBitmapButton>(window);
-    std::erase_if(buttons, [&](const wxBitmapButton* button) { return button->GetToolTipText() != tooltip; });
-    return buttons;
-}
 
 } // namespace
 
@@ -140,8 +130,7 @@ DocumentFiles PlantFiles::startup(long swapFlags) const
 
 std::string PlantFiles::definition() const
 {
-    std::ifstream file(folder / "plant.csv", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return readFile(folder / "plant.csv").value_or("no file");
 }
 
 EditorWindow* openEditor(const DocumentFiles& files)

@@ -1,5 +1,6 @@
 // Nothing fixed is cut, whatever size the desktop gives its fonts: the tests run at several sizes.
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/SourceSide.h"
 #include "tests/ui/UiTest.h"
@@ -32,17 +33,9 @@ int widthInCells(const wxGrid& grid, const wxString& text)
     return width;
 }
 
-std::vector<const wxStaticText*> titlesOver(const wxGrid& grid)
+std::vector<wxStaticText*> titlesOver(const wxGrid& grid)
 {
-    std::vector<const wxStaticText*> titles;
-    for (const wxWindow* const sibling : grid.GetParent()->GetChildren())
-    {
-        if (!dynamic_cast<const GridHeader*>(sibling))
-            continue;
-        for (const wxWindow* const child : sibling->GetChildren())
-            titles.push_back(dynamic_cast<const wxStaticText*>(child));
-    }
-    return titles;
+    return controlsBelow<wxStaticText>(*firstBelow<GridHeader>(*grid.GetParent()));
 }
 
 void expectWholeTitles(const wxGrid& grid)

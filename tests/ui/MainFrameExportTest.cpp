@@ -1,5 +1,6 @@
 // The export of the map into a file that the user names.
 
+#include "files/ReadFile.h"
 #include "tests/ui/ChosenFile.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
@@ -11,8 +12,6 @@
 #include <wx/stdpaths.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace
 {
@@ -26,8 +25,7 @@ constexpr std::string_view csvHeader = "SECTION,ADDRESS,TYPE,REG_COUNT,BYTE_ORDE
 
 std::string contentOf(const std::filesystem::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
+    std::string text = readFile(path).value_or("no file");
     text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
     return text;
 }

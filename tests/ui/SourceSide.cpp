@@ -1,5 +1,6 @@
 #include "tests/ui/SourceSide.h"
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
 #include "ui/ToolkitText.h"
@@ -55,10 +56,9 @@ Names clipboardNames(EditorWindow& editor)
 
 wxCheckBox* groupBox(const EditorWindow& editor, const wxString& flag)
 {
-    for (wxWindow* const child : editor.groupFilters->GetChildren())
+    for (wxCheckBox* const box : controlsBelow<wxCheckBox>(*editor.groupFilters))
     {
-        auto* const box = dynamic_cast<wxCheckBox*>(child);
-        if (box && box->GetLabelText() == flag)
+        if (box->GetLabelText() == flag)
             return box;
     }
     return nullptr;
