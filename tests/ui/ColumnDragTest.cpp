@@ -1,5 +1,6 @@
 // Widths of columns, changed with the mouse at the titles above them.
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/EditorWindow.h"
 #include "tests/ui/UiTest.h"
 #include "ui/grid/GridHeader.h"
@@ -9,17 +10,12 @@
 #include <wx/stattext.h>
 #include <wx/uiaction.h>
 
-#include <algorithm>
-
 namespace
 {
 
 GridHeader& headerOf(const wxGrid& grid)
 {
-    const wxWindowList& siblings = grid.GetParent()->GetChildren();
-    const auto found = std::find_if(siblings.begin(), siblings.end(),
-                                    [](wxWindow* window) { return dynamic_cast<GridHeader*>(window) != nullptr; });
-    return *dynamic_cast<GridHeader*>(*found);
+    return *firstBelow<GridHeader>(*grid.GetParent());
 }
 
 /// The title row's place above the right end of a column, on the screen.
@@ -71,6 +67,8 @@ TEST(ColumnDrag, TagColumnIsPulledAtTheEndOfItsTitle)
     pull(grid, 0, 60);
     EXPECT_TRUE(waitUntil([&] { return grid.GetColSize(0) == before + 60; })) << grid.GetColSize(0);
     EXPECT_EQ(grid.GetColSize(1), grid.FromDIP(70));
+    EXPECT_EQ(grid.GetColSize(2), grid.FromDIP(50));
+    EXPECT_EQ(grid.GetColSize(3), grid.FromDIP(70));
     EXPECT_EQ(grid.GetColSize(4), last - 60) << "the last column takes what is left";
     EXPECT_EQ(firstTitle(grid).GetSize().GetWidth(), before + 60 - grid.FromDIP(5));
     pull(grid, 0, -60);
@@ -114,6 +112,7 @@ TEST(ColumnDrag, MouseThatIsReleasedPullsNoMore)
     EXPECT_TRUE(waitUntil([&] { return grid.GetColSize(2) == grid.FromDIP(50) + 30; }));
     EXPECT_EQ(grid.GetColSize(1), grid.FromDIP(70) + 30);
     EXPECT_EQ(grid.GetColSize(0), grid.FromDIP(170));
+    EXPECT_EQ(grid.GetColSize(3), grid.FromDIP(70));
 }
 
 TEST(ColumnDrag, MapColumnsStay)

@@ -1,6 +1,8 @@
 // What the main window looks like before anything is done: buttons, titles, columns, sash.
 
+#include "tests/ui/ControlsBelow.h"
 #include "tests/ui/EditorWindow.h"
+#include "tests/ui/SamePicture.h"
 #include "tests/ui/UiTest.h"
 #include "ui/NamedImages.h"
 #include "ui/ToolkitText.h"
@@ -13,7 +15,6 @@
 #include <wx/stattext.h>
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
@@ -58,16 +59,11 @@ const std::vector<ExpectedButton> mapButtons{{"png_tool_view", "Toggle view"},
 const std::vector<std::string> sourceTitles{"TAGNAME", "TYPE", "SIZE", "FLAGS", "DESCRIPTION"};
 const std::vector<std::string> mapTitles{"ADDRESS", "TAGNAME", "TYPE", "SIZE", "R/W", "ORDER", "DESCRIPTION"};
 
-/// The children of one kind, in the order in which they stand on the screen from left to right.
+/// The controls of one kind below a window, in the order in which they stand on the screen from left to right.
 template <class Control>
 std::vector<Control*> leftToRight(const wxWindow& parent)
 {
-    std::vector<Control*> found;
-    for (wxWindow* const child : parent.GetChildren())
-    {
-        if (auto* const control = dynamic_cast<Control*>(child))
-            found.push_back(control);
-    }
+    std::vector<Control*> found = controlsBelow<Control>(parent);
     std::sort(found.begin(), found.end(),
               [](const Control* a, const Control* b) { return a->GetScreenPosition().x < b->GetScreenPosition().x; });
     return found;
@@ -89,17 +85,6 @@ std::vector<std::string> tooltips(const std::vector<ExpectedButton>& buttons)
     for (const ExpectedButton& button : buttons)
         texts.emplace_back(button.tooltip);
     return texts;
-}
-
-bool samePicture(const wxBitmap& one, const wxBitmap& other)
-{
-    if (!one.IsOk() || !other.IsOk() || one.GetSize() != other.GetSize())
-        return false;
-    const wxImage left = one.ConvertToImage();
-    const wxImage right = other.ConvertToImage();
-    const auto pixels = static_cast<std::size_t>(left.GetWidth()) * static_cast<std::size_t>(left.GetHeight());
-    return left.HasAlpha() == right.HasAlpha() && std::memcmp(left.GetData(), right.GetData(), pixels * 3) == 0 &&
-           (!left.HasAlpha() || std::memcmp(left.GetAlpha(), right.GetAlpha(), pixels) == 0);
 }
 
 /// Fails the test where the picture that a button shows is not the one of that name.

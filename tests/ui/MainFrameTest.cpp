@@ -1,4 +1,5 @@
 #include "tests/ui/EditorWindow.h"
+#include "tests/ui/SamePicture.h"
 #include "tests/ui/UiTest.h"
 #include "ui/NamedImages.h"
 #include "ui/Theme.h"
@@ -8,8 +9,6 @@
 #include <wx/bmpbuttn.h>
 #include <wx/grid.h>
 #include <wx/stattext.h>
-
-#include <cstring>
 
 namespace
 {
@@ -23,11 +22,7 @@ constexpr std::string_view definition = "COIL,00007,NONE,INT16,TANK_HIGH,Level h
 
 bool showsImage(const wxBitmapButton& button, const wxString& name)
 {
-    const wxSize size(24, 24);
-    const wxImage shown = button.GetBitmapLabel().ConvertToImage();
-    const wxImage wanted = namedImage(name).GetBitmap(size).ConvertToImage();
-    const auto bytes = static_cast<std::size_t>(wanted.GetWidth()) * static_cast<std::size_t>(wanted.GetHeight()) * 3;
-    return shown.GetSize() == wanted.GetSize() && std::memcmp(shown.GetData(), wanted.GetData(), bytes) == 0;
+    return samePicture(button.GetBitmapLabel(), namedImage(name).GetBitmap(wxSize(24, 24)));
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 
 #include "ui/NamedImages.h"
 
+#include "tests/ui/SamePicture.h"
 #include "ui/EmbeddedFiles.h"
 
 #include <gtest/gtest.h>
 #include <wx/image.h>
 #include <wx/mstream.h>
 
-#include <algorithm>
 #include <string>
 
 namespace
@@ -21,12 +21,6 @@ wxImage embedded(const std::string& file)
     const auto bytes = embeddedFile(file);
     wxMemoryInputStream stream(bytes.data(), bytes.size());
     return wxImage(stream, wxBITMAP_TYPE_PNG);
-}
-
-bool haveSamePixels(const wxImage& one, const wxImage& other)
-{
-    const std::size_t length = std::size_t{3} * static_cast<std::size_t>(one.GetWidth() * one.GetHeight());
-    return one.GetSize() == other.GetSize() && std::equal(one.GetData(), one.GetData() + length, other.GetData());
 }
 
 } // namespace
@@ -45,8 +39,8 @@ TEST(NamedImages, EachScaleShowsItsOwnFile)
 {
     const wxBitmapBundle picture = namedImage(name);
     const wxSize size = picture.GetDefaultSize();
-    EXPECT_TRUE(haveSamePixels(picture.GetBitmap(size).ConvertToImage(), embedded(name)));
-    EXPECT_TRUE(haveSamePixels(picture.GetBitmap(size * 2).ConvertToImage(), embedded(std::string(name) + "@2x")));
+    EXPECT_TRUE(samePicture(picture.GetBitmap(size).ConvertToImage(), embedded(name)));
+    EXPECT_TRUE(samePicture(picture.GetBitmap(size * 2).ConvertToImage(), embedded(std::string(name) + "@2x")));
 }
 
 TEST(NamedImages, AnyOtherSizeIsMadeOfTheTwo)

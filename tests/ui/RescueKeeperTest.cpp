@@ -19,6 +19,23 @@ void change(Document& document, int address)
     document.map.placeObject(RegisterSpace::Coil, address, freeSlot(address), 1);
 }
 
+/// Waits until the copy is the file of the map as it is now.
+[[nodiscard]] bool comesToHold(RescueKeeper& keeper, const RegisterMap& map)
+{
+    return waitUntil([&] { return readFile(keeper.file()) == definitionText(map); });
+}
+
+/// Waits until a keeper that is there has had its turn a few times.
+[[nodiscard]] bool waitForSomeIntervals()
+{
+    // Ticks of one timer pass for ticks of another of the same length.
+    int ticks = 0;
+    wxTimer beside;
+    beside.Bind(wxEVT_TIMER, [&ticks](wxTimerEvent&) { ++ticks; });
+    beside.Start(quickly);
+    return waitUntil([&] { return ticks > 3; });
+}
+
 } // namespace
 
 TEST(RescueKeeper, RefreshesItsCopyAfterEachIntervalWithChanges)
@@ -27,10 +44,9 @@ TEST(RescueKeeper, RefreshesItsCopyAfterEachIntervalWithChanges)
     Document document("", folder / "north.csv", 0);
     RescueKeeper keeper(document, folder / "rescue", quickly);
     change(document, 3);
-    const auto holdsTheMap = [&] { return readFile(keeper.file()) == definitionText(document.map); };
-    EXPECT_TRUE(waitUntil(holdsTheMap));
+    EXPECT_TRUE(comesToHold(keeper, document.map));
     change(document, 4);
-    EXPECT_TRUE(waitUntil(holdsTheMap));
+    EXPECT_TRUE(comesToHold(keeper, document.map));
 }
 
 TEST(RescueKeeper, WritesItsCopyAgainWhenOtherRunsHavePushedItOut)
@@ -39,10 +55,9 @@ TEST(RescueKeeper, WritesItsCopyAgainWhenOtherRunsHavePushedItOut)
     Document document("", folder / "north.csv", 0);
     RescueKeeper keeper(document, folder / "rescue", quickly);
     change(document, 3);
-    const auto holdsTheMap = [&] { return readFile(keeper.file()) == definitionText(document.map); };
-    ASSERT_TRUE(waitUntil(holdsTheMap));
+    ASSERT_TRUE(comesToHold(keeper, document.map));
     std::filesystem::remove(keeper.file());
-    EXPECT_TRUE(waitUntil(holdsTheMap));
+    EXPECT_TRUE(comesToHold(keeper, document.map));
 }
 
 TEST(RescueKeeper, TriesAgainWhenACopyCouldNotBeWritten)
@@ -52,15 +67,11 @@ TEST(RescueKeeper, TriesAgainWhenACopyCouldNotBeWritten)
     Document document("", folder / "north.csv", 0);
     RescueKeeper keeper(document, folder / "rescue" / "copies", quickly);
     change(document, 3);
-    int ticks = 0;
-    wxTimer beside;
-    beside.Bind(wxEVT_TIMER, [&ticks](wxTimerEvent&) { ++ticks; });
-    beside.Start(quickly);
-    ASSERT_TRUE(waitUntil([&] { return ticks > 3; }));
+    ASSERT_TRUE(waitForSomeIntervals());
     ASSERT_EQ(keeper.file(), "");
 
     std::filesystem::remove(folder / "rescue");
-    EXPECT_TRUE(waitUntil([&] { return readFile(keeper.file()) == definitionText(document.map); }));
+    EXPECT_TRUE(comesToHold(keeper, document.map));
 }
 
 TEST(RescueKeeper, WritesNothingWhileThereAreNoChanges)
@@ -68,12 +79,7 @@ TEST(RescueKeeper, WritesNothingWhileThereAreNoChanges)
     const TempFolder folder;
     const Document document("", folder / "north.csv", 0);
     RescueKeeper keeper(document, folder / "rescue", quickly);
-    // Ticks of one timer pass for ticks of another of the same length.
-    int ticks = 0;
-    wxTimer beside;
-    beside.Bind(wxEVT_TIMER, [&ticks](wxTimerEvent&) { ++ticks; });
-    beside.Start(quickly);
-    ASSERT_TRUE(waitUntil([&] { return ticks > 3; }));
+    ASSERT_TRUE(waitForSomeIntervals());
     EXPECT_EQ(keeper.file(), "");
     EXPECT_FALSE(std::filesystem::exists(folder / "rescue"));
 }

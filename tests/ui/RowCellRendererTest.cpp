@@ -2,6 +2,7 @@
 
 #include "ui/grid/RowCellRenderer.h"
 
+#include "tests/ui/SamePicture.h"
 #include "tests/ui/UiTest.h"
 #include "ui/Theme.h"
 #include "ui/ToolkitText.h"
@@ -13,7 +14,6 @@
 #include <wx/image.h>
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
@@ -82,12 +82,6 @@ private:
     wxGrid* grid;
     RowCellRenderer renderer;
 };
-
-bool samePicture(const wxImage& one, const wxImage& other)
-{
-    const auto pixels = static_cast<std::size_t>(one.GetWidth()) * static_cast<std::size_t>(one.GetHeight());
-    return one.GetSize() == other.GetSize() && std::memcmp(one.GetData(), other.GetData(), pixels * 3) == 0;
-}
 
 /// The first line of a picture that is not black.
 int firstInkedLine(const wxImage& picture)

@@ -32,6 +32,13 @@ TEST(Theme, EveryMeaningOfATagCellHasItsColour)
         EXPECT_EQ(theme::cellColour(tone), colour) << static_cast<int>(tone);
 }
 
+TEST(Theme, ContrastOfBlackAndWhiteIs21)
+{
+    EXPECT_NEAR(contrast({0, 0, 0}, {255, 255, 255}), 21, 0.01);
+    EXPECT_NEAR(contrast({255, 255, 255}, {0, 0, 0}), 21, 0.01);
+    EXPECT_NEAR(contrast({51, 153, 255}, {51, 153, 255}), 1, 0.01);
+}
+
 TEST(Theme, TextsOnTheSelectionCanBeRead)
 {
     EXPECT_GE(contrast(theme::selectionText, theme::selection), 4.5);
