@@ -1,6 +1,7 @@
 #include "json/JsonEscape.h"
 
 #include "text/Characters.h"
+#include "text/Utf8.h"
 
 #include <charconv>
 #include <optional>
@@ -13,6 +14,11 @@ namespace
 {
 
 constexpr std::size_t unitLength = 6; ///< of "\u" and its four digits
+
+// What may follow a backslash, and what it then stands for. No other letter means anything: "\x41" and "\'" are C, not
+// JSON.
+constexpr std::string_view letters = "\"\\/bfnrt";
+constexpr std::string_view meanings = "\"\\/\b\f\n\r\t";
 
 /// The UTF-16 unit of the "\u" escape that the text begins with, or nothing when it begins with none.
 std::optional<unsigned> escapedUnit(std::string_view text)
@@ -32,9 +38,7 @@ std::optional<unsigned> escapedUnit(std::string_view text)
 
 std::size_t escapeLength(std::string_view text)
 {
-    // No other letter means anything: "\x41" and "\'" are C, not JSON.
-    constexpr std::string_view plain = "\"\\/bfnrt";
-    if (text.size() >= 2 && plain.find(text[1]) != std::string_view::npos)
+    if (text.size() >= 2 && letters.find(text[1]) != std::string_view::npos)
         return 2;
     const auto unit = escapedUnit(text);
     // A second half without a first one before it is not a character.
@@ -45,4 +49,16 @@ std::size_t escapeLength(std::string_view text)
     // The second half has to be an escape too, right after the first.
     const auto second = escapedUnit(text.substr(unitLength));
     return second && isLowSurrogate(*second) ? 2 * unitLength : 0;
+}
+
+void appendUnescaped(std::string& target, std::string_view escape)
+{
+    const auto unit = escapedUnit(escape);
+    const auto second = escape.size() > unitLength ? escapedUnit(escape.substr(unitLength)) : std::nullopt;
+    if (second)
+        appendCharacter(target, characterOfPair(*unit, *second));
+    else if (unit)
+        appendCharacter(target, *unit);
+    else
+        target += meanings[letters.find(escape[1])];
 }

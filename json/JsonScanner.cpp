@@ -58,8 +58,9 @@ std::string_view literalOf(std::string_view word)
     return {};
 }
 
-/// True for a number whose exponent or length may take it out of the range of a floating-point number, 308 digits. The
-/// parser refuses such a number, although it is asked to hand on all numbers unread (RapidJSON 1.1).
+/// True for a number whose exponent or length may take it out of the range of a floating-point number, 308 digits. Not
+/// every parser of strict JSON takes such a number, even when it is asked to hand on all of them unread
+/// (RapidJSON 1.1).
 bool mayBeOutOfRange(std::string_view number)
 {
     constexpr std::size_t safeLength = 300;

@@ -53,3 +53,9 @@ constexpr bool isLowSurrogate(char32_t unit)
 {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
+
+/// The character that UTF-16 writes in these two units.
+constexpr char32_t characterOfPair(char32_t highSurrogate, char32_t lowSurrogate)
+{
+    return 0x10000U + ((highSurrogate - 0xD800U) << 10U) + (lowSurrogate - 0xDC00U);
+}

@@ -128,7 +128,7 @@ std::string decodeUtf16(std::string_view bytes, bool lowestByteFirst)
         std::uint32_t codePoint = units.take();
         // What follows is looked at before it is taken: if it is not a second half, it begins a character of its own.
         if (isHighSurrogate(codePoint) && units.hasUnit() && isLowSurrogate(units.peek()))
-            codePoint = 0x10000U + ((codePoint - 0xD800U) << 10U) + (units.take() - 0xDC00U);
+            codePoint = characterOfPair(codePoint, units.take());
         appendCharacter(text, codePoint);
     }
     if (units.hasPartOfUnit())

@@ -40,3 +40,10 @@ TEST(Characters, DigitsAreThoseOfDecimalNumbers)
     for (const char c : {'/', ':', 'a', ' ', '\xB2'})
         EXPECT_FALSE(isDigit(c)) << c;
 }
+
+TEST(Characters, APairOfUnitsIsACharacterBeyondTheFirst65536)
+{
+    EXPECT_EQ(characterOfPair(0xD800, 0xDC00), 0x10000U);
+    EXPECT_EQ(characterOfPair(0xD83D, 0xDE00), 0x1F600U);
+    EXPECT_EQ(characterOfPair(0xDBFF, 0xDFFF), 0x10FFFFU);
+}

@@ -33,3 +33,12 @@ TEST(JsonEscape, HalfOfAPairIsNone)
          {"\\ud800", "\\ud800x", "\\ud800\\u0041", "\\ud800\\ud800", "\\ud800\\udc0", "\\udc00", "\\uDFFF"})
         EXPECT_EQ(escapeLength(text), 0U) << text;
 }
+
+TEST(JsonEscape, AnEscapeStandsForItsCharacter)
+{
+    std::string text = "x";
+    for (const char* escape : {"\\\"", "\\\\", "\\/", "\\b", "\\f", "\\n", "\\r", "\\t", "\\u0041", "\\u00fC",
+                               "\\u20ac", "\\ud83d\\ude00", "\\uDBFF\\uDFFF"})
+        appendUnescaped(text, escape);
+    EXPECT_EQ(text, "x\"\\/\b\f\n\r\tA\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF");
+}

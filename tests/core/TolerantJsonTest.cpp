@@ -1,5 +1,7 @@
 #include "json/TolerantJson.h"
 
+#include "tests/core/JsonRecord.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -10,31 +12,15 @@ using namespace std::string_literals;
 namespace
 {
 
-/// Writes down what it receives: {}, [], name=, 'text', and - for a literal.
-class Record : public JsonEvents
-{
-public:
-    void beginDocument() override { written.clear(); }
-    void beginObject() override { written += '{'; }
-    void endObject() override { written += '}'; }
-    void beginArray() override { written += '['; }
-    void endArray() override { written += ']'; }
-    void key(std::string_view name) override { written.append(name).append("="); }
-    void text(std::string_view content) override { written.append("'").append(content).append("'"); }
-    void literal() override { written += '-'; }
-
-    std::string written;
-};
-
 std::string eventsOf(std::string text)
 {
-    Record record;
+    JsonRecord record;
     return readTolerantJson(std::move(text), record) ? record.written : "bad";
 }
 
 bool accepted(std::string text)
 {
-    Record record;
+    JsonRecord record;
     return readTolerantJson(std::move(text), record);
 }
 
