@@ -22,7 +22,7 @@ std::string contents(const std::string& path)
 /// The man page without the marks that keep its hyphens what they are.
 std::string manPage()
 {
-    std::string page = contents(TOLVANE_SOURCES "/tool/man/tolvane-map.1");
+    std::string page = contents(TOLVANE_MAP_PAGE);
     std::erase(page, '\\');
     return page;
 }
