@@ -54,6 +54,6 @@ struct ObjectChange
 /// The word for a change in reports, such as "byte order".
 std::string_view changeName(ChangeKind kind);
 
-/// True for a change that a polling master notices: address, type, size, registers that another object took, byte
-/// order, write permission, an object that is gone. A new object is at an address that it does not poll yet.
+/// True for a change that a polling master notices: address, type, size, registers that another object took or gave
+/// back, byte order, write permission, an object that is gone. A new object is at an address that it does not poll yet.
 bool isBreaking(ChangeKind kind);
