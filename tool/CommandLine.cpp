@@ -47,22 +47,30 @@ CLI::Option* addChoice(CLI::App& word, const std::string& name, Value& value, co
     return word.add_option_function<std::string>(name, take, description)->type_name(shown);
 }
 
-/// Shows in each word's usage what has to be given.
+/// Shows in a word's usage what has to be given; the library's own says "[OPTIONS]" only.
 class UsageFormatter : public CLI::Formatter
 {
 public:
-    std::string make_usage(const CLI::App* app, std::string name) const override
+    /// @param wordUsage  the word and what follows it
+    explicit UsageFormatter(std::string wordUsage) : usage(std::move(wordUsage)) {}
+
+    std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override
     {
-        static const std::map<std::string, std::string> needed{
-            {"check", "check --json FILE --modbus FILE [OPTIONS]"},
-            {"diff", "diff [OPTIONS] OLD NEW"},
-            {"export", "export --modbus FILE --output FILE [OPTIONS]"}};
-        const auto usage = needed.find(app->get_name());
-        if (usage == needed.end())
-            return CLI::Formatter::make_usage(app, std::move(name));
-        return "Usage: tolvane-map " + usage->second + '\n';
+        return "Usage: tolvane-map " + usage + '\n';
     }
+
+private:
+    std::string usage;
 };
+
+/// Fills in what the help of every word has.
+/// @param usage  the word and what has to be given with it
+void describe(CLI::App& word, const char* usage, const char* footer)
+{
+    word.formatter(std::make_shared<UsageFormatter>(usage));
+    word.set_help_flag("-h,--help", helpDescription);
+    word.footer(footer);
+}
 
 /// The program's words and the options of each.
 class CommandLine
@@ -70,11 +78,6 @@ class CommandLine
 public:
     CommandLine()
     {
-        for (CLI::App* const word : {checkWord, diffWord, exportWord})
-        {
-            word->formatter(std::make_shared<UsageFormatter>());
-            word->set_help_flag("-h,--help", helpDescription);
-        }
         app.set_version_flag("--version", "tolvane-map " TOLVANE_VERSION, "Print the version and exit");
         app.set_help_flag("-h,--help", helpDescription);
         app.require_subcommand(1);
@@ -124,6 +127,7 @@ private:
 
     void describeCheck()
     {
+        describe(*checkWord, "check --json FILE --modbus FILE [OPTIONS]", checkFooter);
         addDatabase(*checkWord, checkOptions.databasePath)->required();
         addMap(*checkWord, checkOptions.mapPath);
         checkWord->add_option("--name", checkOptions.name, "What findings call the map (its path)")->type_name("NAME");
@@ -134,11 +138,11 @@ private:
         addChoice<Warnings>(*checkWord, "--warnings", checkOptions.warnings, "What is done with warnings (on)",
                             {{"off", Warnings::Off}, {"on", Warnings::On}, {"error", Warnings::Error}}, "off|on|error");
         checkWord->add_flag("-q,--quiet", checkOptions.quiet, "Write nothing; the exit code says it");
-        checkWord->footer(checkFooter);
     }
 
     void describeDiff()
     {
+        describe(*diffWord, "diff [OPTIONS] OLD NEW", diffFooter);
         diffWord->add_option("FILES", diffOptions.arguments, "The old map and the new one; git gives more")
             ->type_name("")
             ->required();
@@ -155,11 +159,11 @@ private:
                 if (!diffOptions.git && diffOptions.arguments.size() != 2)
                     throw CLI::ValidationError("FILES", "two maps are compared, the old one and the new one");
             });
-        diffWord->footer(diffFooter);
     }
 
     void describeExport()
     {
+        describe(*exportWord, "export --modbus FILE --output FILE [OPTIONS]", exportFooter);
         addDatabase(*exportWord, exportOptions.databasePath)
             ->description("Tag database (JSON): sizes texts whose lines give no length");
         addMap(*exportWord, exportOptions.mapPath);
@@ -170,7 +174,6 @@ private:
             ->required();
         addChoice<ExportChoice>(*exportWord, "--format", exportOptions.format, "The format, whatever the file's name",
                                 {{"csv", ExportChoice::Csv}, {"text", ExportChoice::Text}}, "csv|text");
-        exportWord->footer(exportFooter);
     }
 
     bool readsInputTwice() const
@@ -178,7 +181,7 @@ private:
         std::vector<std::string> inputs{checkOptions.databasePath, checkOptions.mapPath, diffOptions.databasePath,
                                         exportOptions.databasePath, exportOptions.mapPath};
         inputs.insert(inputs.end(), diffOptions.arguments.begin(), diffOptions.arguments.end());
-        return std::ranges::count(inputs, "-") > 1;
+        return std::ranges::count(inputs, standardStream) > 1;
     }
 
     CheckOptions checkOptions;

@@ -13,8 +13,6 @@
 namespace
 {
 
-constexpr std::string_view standardStream = "-";
-
 bool isCsv(const ExportOptions& options)
 {
     if (options.format != ExportChoice::ByName)
@@ -51,11 +49,10 @@ ExitCode refuse(const ExportOptions& options, const std::string& reason)
 /// Writes into a pipe or a device, which has no old contents to keep.
 bool writeInto(const std::string& path, std::string_view text)
 {
-    std::filebuf file;
-    return file.open(path, std::ios::out | std::ios::binary) != nullptr &&
-           file.sputn(text.data(), static_cast<std::streamsize>(text.size())) ==
-               static_cast<std::streamsize>(text.size()) &&
-           file.close() != nullptr;
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    file.close(); // only now the last bytes are written, or not
+    return file.good();
 }
 
 ExitCode writeTo(const ExportOptions& options, std::string_view text)

@@ -6,6 +6,7 @@
 #include "text/Characters.h"
 #include "text/Decode.h"
 #include "tool/Messages.h"
+#include "tool/Options.h"
 
 #include <cerrno>
 #include <exception>
@@ -19,8 +20,6 @@
 namespace
 {
 
-constexpr std::string_view standardInput = "-";
-
 std::optional<std::string> cannotRead(const std::string& path, const std::string& reason)
 {
     tell(shownPath(path) + ": cannot be read: " + reason);
@@ -31,14 +30,14 @@ std::optional<std::string> cannotRead(const std::string& path, const std::string
 
 std::string shownPath(const std::string& path)
 {
-    return path == standardInput ? "<stdin>" : path;
+    return path == standardStream ? "<stdin>" : path;
 }
 
 std::optional<std::string> readInput(const std::string& path)
 try
 {
     std::string bytes;
-    if (path == standardInput)
+    if (path == standardStream)
     {
         appendRest(*std::cin.rdbuf(), bytes);
         return bytes;

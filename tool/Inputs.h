@@ -10,7 +10,7 @@
 
 /// Reading what the command line names. What cannot be read is told on standard error.
 
-/// The bytes of a file, pipe or device; "-" is standard input.
+/// The bytes of a file, pipe or device; `standardStream` is standard input.
 /// @return nothing when it cannot be read, which has then been told
 std::optional<std::string> readInput(const std::string& path);
 
@@ -22,9 +22,13 @@ std::string shownPath(const std::string& path);
 /// @return false when it cannot be used, which has then been told
 bool readDatabase(const std::string& path, TagDatabase& database);
 
-/// Reads a map as the editor does and tells how many lines it dropped.
+/// Reads a map as the editor does, in any encoding, and tells how many lines were dropped; blank ones are no loss and
+/// not counted.
+/// @param path     `standardStream` for standard input
+/// @param tags     size the texts whose lines give no length
+/// @param map      gets the objects over whatever it holds
 /// @param unsized  gets the texts whose length neither their line nor the tags tell
-/// @return false when it cannot be read, which has then been told
+/// @return false when it cannot be read, which has then been told; `map` and `unsized` are then as before
 bool readMap(const std::string& path, const TagTable& tags, RegisterMap& map, UnsizedTexts& unsized);
 
 /// Tells that the length of some texts is not known, and why.

@@ -1,7 +1,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
+
+/// The path that stands for standard input, or for standard output where something is written.
+constexpr std::string_view standardStream = "-";
 
 /// What is done with warnings.
 enum class Warnings
@@ -19,7 +23,7 @@ enum class ReportFormat
     GitHub ///< findings as commands that mark the lines of a change under review
 };
 
-/// `tolvane-map check`. Paths are as given; "-" is standard input.
+/// `tolvane-map check`. Paths are as given, here and below, and may be `standardStream`.
 struct CheckOptions
 {
     std::string databasePath;
@@ -53,6 +57,6 @@ struct ExportOptions
 {
     std::string databasePath; ///< empty for none
     std::string mapPath;
-    std::string outputPath; ///< "-" is standard output
+    std::string outputPath;
     ExportChoice format = ExportChoice::ByName;
 };
