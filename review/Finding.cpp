@@ -12,14 +12,12 @@ struct RuleFacts
 };
 
 constexpr std::array<RuleFacts, ruleCount> facts{{{"dropped-line", Severity::Error},
-
                                                   {"bad-number", Severity::Error},
                                                   {"unknown-type", Severity::Error},
                                                   {"unknown-order", Severity::Error},
                                                   {"unknown-lock", Severity::Error},
                                                   {"cut-off", Severity::Error},
                                                   {"overlap", Severity::Error},
-
                                                   {"no-tagname", Severity::Error},
                                                   {"unknown-tag", Severity::Error},
                                                   {"bad-type", Severity::Error},

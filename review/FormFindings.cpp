@@ -72,9 +72,8 @@ void appendOtherForms(Findings& findings, const PlacedLines& lines, const LineOw
         appendDefinitionLine(written, object.space, map.slots(object.space)[object.start]);
         if (written == lines[i].text)
             continue;
-        Finding finding = findingAbout(lines[i], Rule::OtherForm);
-        finding.message = difference(lines[i].text, written) + "saving writes " + written;
-        findings.push_back(std::move(finding));
+        appendFinding(findings, lines[i], Rule::OtherForm,
+                      difference(lines[i].text, written) + "saving writes " + written);
     }
 }
 
@@ -94,9 +93,9 @@ void appendFirstOutOfOrder(Findings& findings, const PlacedLines& lines)
     }
 }
 
-void appendEncoding(Findings& findings, std::string_view text, bool isDecoded)
+void appendEncoding(Findings& findings, std::string_view text, bool bytesDiffer)
 {
-    if (isDecoded)
+    if (bytesDiffer)
         findings.push_back(encodingFinding(1, "saving writes UTF-8 without a byte-order mark"));
     int number = 0;
     bool found = false;

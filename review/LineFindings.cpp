@@ -12,17 +12,18 @@
 namespace
 {
 
-constexpr std::string_view commaHint = "; is there a comma in the description?";
+constexpr const char* commaHint = "; is there a comma in the description?";
+constexpr const char* anyCommaHint = "; is there a comma in the tagname or description?";
 
 std::string fieldCountMessage(const DefinitionFileLine& line)
 {
     if (line.fieldCount > fullForm)
-        return "dropped: more than 9 fields; is there a comma in the tagname or description?";
+        return std::string("dropped: more than 9 fields") + anyCommaHint;
     const std::string message =
         "dropped: " + counted(static_cast<std::int64_t>(line.fieldCount), "field") + " where an object has 9, 7 or 6";
     // A comma too many makes eight of seven.
     constexpr std::size_t oneTooMany = formWithoutLock + 1;
-    return line.fieldCount == oneTooMany ? message + "; is there a comma in the tagname or description?" : message;
+    return line.fieldCount == oneTooMany ? message + anyCommaHint : message;
 }
 
 std::string faultMessage(const DefinitionFileLine& line, LineFault fault)
@@ -52,10 +53,9 @@ void appendNumberFindings(Findings& findings, const DefinitionFileLine& line, co
     const std::string count = "the register count " + inQuotes(line.fields.count);
     if (placed.object.type == DataType::String)
         appendFinding(findings, placed, Rule::BadNumber,
-                      count + " is read as " + std::to_string(placed.object.count) + std::string(commaHint));
+                      count + " is read as " + std::to_string(placed.object.count) + commaHint);
     else
-        appendFinding(findings, placed, Rule::IgnoredCount,
-                      count + " is no number and passed over" + std::string(commaHint));
+        appendFinding(findings, placed, Rule::IgnoredCount, count + " is no number and passed over" + commaHint);
 }
 
 /// Addresses of registers; one alone or first and last.

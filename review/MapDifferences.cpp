@@ -176,18 +176,14 @@ private:
         const std::span<const std::uint32_t> had = heldBefore.of(before);
         const std::span<const std::uint32_t> has = heldAfter.of(after);
         const std::uint32_t common = commonRegisters(before.head, after.head);
-        std::optional<std::uint32_t> lost = firstHeldOnlyIn(had, has, common);
-        std::optional<std::uint32_t> found = firstHeldOnlyIn(has, had, common);
+        const std::optional<std::uint32_t> lost = firstHeldOnlyIn(had, has, common);
+        const std::optional<std::uint32_t> found = firstHeldOnlyIn(has, had, common);
         std::vector<ChangeKind> kinds = kindsOf(before, after, lost.has_value(), found.has_value());
         if (kinds.empty())
             return;
-        // From here on they are addresses.
-        for (std::optional<std::uint32_t>* const distance : {&lost, &found})
-        {
-            if (*distance)
-                **distance += after.head.address;
-        }
-        changes.push_back({before, after, std::move(kinds), lost, found});
+        const auto addressOf = [&](std::optional<std::uint32_t> distance)
+        { return distance ? std::optional(after.head.address + *distance) : std::nullopt; };
+        changes.push_back({before, after, std::move(kinds), addressOf(lost), addressOf(found)});
     }
 
     void pairMoved(bool insideSpace)

@@ -18,6 +18,12 @@ constexpr int mostSlips = 3;
 /// Comparing two names in full takes so much longer than seeing that their characters differ too much.
 constexpr int stepsOfComparison = 32;
 
+/// True without regard to capitals.
+bool sameLetter(char one, char other)
+{
+    return lowerCase(one) == lowerCase(other);
+}
+
 int slipsAllowed(std::string_view name)
 {
     constexpr int charactersPerSlip = 4;
@@ -50,11 +56,12 @@ bool farApart(std::uint64_t one, std::uint64_t other, int slips)
 
 void stripCommonEnds(std::string_view& one, std::string_view& other)
 {
-    const auto same = [](char a, char b) { return lowerCase(a) == lowerCase(b); };
-    const auto front = std::mismatch(one.begin(), one.end(), other.begin(), other.end(), same).first - one.begin();
+    const auto front =
+        std::mismatch(one.begin(), one.end(), other.begin(), other.end(), sameLetter).first - one.begin();
     one.remove_prefix(static_cast<std::size_t>(front));
     other.remove_prefix(static_cast<std::size_t>(front));
-    const auto back = std::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend(), same).first - one.rbegin();
+    const auto back =
+        std::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend(), sameLetter).first - one.rbegin();
     one.remove_suffix(static_cast<std::size_t>(back));
     other.remove_suffix(static_cast<std::size_t>(back));
 }
@@ -115,7 +122,7 @@ private:
         return exchanged ? std::min(least, rows[(i - 2) % rows.size()][j - 2] + 1) : least;
     }
 
-    bool same(std::size_t i, std::size_t j) const { return lowerCase(one[i - 1]) == lowerCase(other[j - 1]); }
+    bool same(std::size_t i, std::size_t j) const { return sameLetter(one[i - 1], other[j - 1]); }
 
     std::string_view one;
     std::string_view other;
@@ -137,16 +144,15 @@ int slipsBetween(std::string_view one, std::string_view other, int limit)
 
 bool differInDigitsOnly(std::string_view one, std::string_view other)
 {
-    const auto same = [](char a, char b) { return lowerCase(a) == lowerCase(b); };
-    if (std::ranges::equal(one, other, same))
+    if (std::ranges::equal(one, other, sameLetter))
         return false;
-    const auto withoutDigits = [&](std::string_view name)
+    const auto withoutDigits = [](std::string_view name)
     {
         std::string rest(name);
         std::erase_if(rest, isDigit);
         return rest;
     };
-    return std::ranges::equal(withoutDigits(one), withoutDigits(other), same);
+    return std::ranges::equal(withoutDigits(one), withoutDigits(other), sameLetter);
 }
 
 NearestTag::Near NearestTag::compare(std::string_view name, std::uint64_t letters, const Candidate& candidate,

@@ -19,7 +19,8 @@ struct LineMarks
     int badWrite = 0;
     std::int32_t tagIndex = -1;
 
-    bool any() const { return unknownTag + badType + badWrite > 0; }
+    int total() const { return unknownTag + badType + badWrite; }
+    bool any() const { return total() > 0; }
 
     void count(const RegisterEntry& slot)
     {
@@ -96,7 +97,7 @@ Finding unknownTagFinding(const PlacedLine& line, int marks, Suggestions& sugges
 /// What validation says about an object without a name says nothing about any tag.
 Finding noTagnameFinding(const PlacedLine& line, const LineMarks& marks)
 {
-    return markFinding(line, Rule::NoTagname, marks.unknownTag + marks.badType + marks.badWrite, "no tagname");
+    return markFinding(line, Rule::NoTagname, marks.total(), "no tagname");
 }
 
 void appendMarksOf(Findings& findings, const PlacedLine& line, const LineMarks& marks, const TagTable& tags)
