@@ -1,5 +1,6 @@
 #pragma once
 
+#include "memory/LargePages.h"
 #include "source/TagRecord.h"
 #include "text/InternedText.h"
 
@@ -57,7 +58,7 @@ private:
 
     static const TagRecord unusedRecord;
 
-    std::vector<TagRecord> records; ///< all of them, or none before the first tag
+    std::vector<TagRecord, LargePageAllocator<TagRecord>> records; ///< all of them, or none before the first tag
     int filled = 0;
     std::vector<std::int32_t> firstByName; ///< open-addressing table of record indices; empty with `records`
 };

@@ -97,6 +97,8 @@ private:
         const void* entry = nullptr;
     };
 
+    using Table = std::vector<Slot, LargePageAllocator<Slot>>;
+
     static std::size_t hashOf(std::string_view utf8) { return std::hash<std::string_view>{}(utf8); }
 
     void reserve(std::size_t further)
@@ -106,7 +108,7 @@ private:
             grow();
     }
 
-    static Slot& find(std::vector<Slot>& table, std::size_t hash, std::string_view utf8)
+    static Slot& find(Table& table, std::size_t hash, std::string_view utf8)
     {
         const std::size_t mask = table.size() - 1;
         std::size_t index = hash & mask;
@@ -121,10 +123,7 @@ private:
         // Room for names and descriptions of a full database: growing up to there would take 4 ms of its loading.
         constexpr std::size_t firstSize = 1U << 18U;
         const std::size_t size = std::max(firstSize, slots.size() * 2);
-        std::vector<Slot> larger;
-        larger.reserve(size);
-        preferLargePages(larger.data(), size * sizeof(Slot));
-        larger.resize(size);
+        Table larger(size);
         // Each entry is on its place by its hash alone: all of them are different, so there is nothing to compare.
         const std::size_t mask = larger.size() - 1;
         for (const Slot& slot : slots)
@@ -156,16 +155,19 @@ private:
 
     void addBlock(std::size_t wanted)
     {
-        // What is left of the block before is given up. A text longer than a block gets one of its own.
-        constexpr std::size_t blockSize = 1U << 18U;
-        const std::size_t size = std::max(blockSize, wanted);
+        // What is left of the block before is given up. A text longer than a block gets one of its own. A small plant
+        // needs only the first one; the others have room for all texts of a large one, and large pages.
+        constexpr std::size_t firstSize = 1U << 18U;
+        constexpr std::size_t furtherSize = 1U << 23U;
+        const std::size_t size = std::max(blocks.empty() ? firstSize : furtherSize, wanted);
         // Memory may run out here; nothing is changed until it is there, so that the texts before stay usable.
         blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(size));
         next = blocks.back().get();
         room = size;
+        preferLargePages(next, size);
     }
 
-    std::vector<Slot> slots;
+    Table slots;
     std::vector<std::unique_ptr<std::byte[]>> blocks;
     std::byte* next = nullptr;
     std::size_t room = 0;
