@@ -87,10 +87,12 @@ public:
         describeExport();
     }
 
-    Request read(int argc, char** argv)
+    Request read(std::vector<std::string> arguments)
     try
     {
-        app.parse(argc, argv);
+        // The library takes them from the end.
+        std::ranges::reverse(arguments);
+        app.parse(std::move(arguments));
         if (readsInputTwice())
         {
             tell("standard input can be read once only");
@@ -195,7 +197,7 @@ private:
 
 } // namespace
 
-Request readCommandLine(int argc, char** argv)
+Request readCommandLine(std::vector<std::string> arguments)
 {
-    return CommandLine().read(argc, argv);
+    return CommandLine().read(std::move(arguments));
 }

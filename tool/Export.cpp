@@ -4,6 +4,7 @@
 #include "map/MapExport.h"
 #include "tool/Inputs.h"
 #include "tool/Messages.h"
+#include "tool/Paths.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -24,7 +25,7 @@ bool isCsv(const ExportOptions& options)
 /// compared with nothing.
 std::filesystem::path fileBehind(const std::string& path, const char* stream)
 {
-    return path == standardStream ? stream : path;
+    return path == standardStream ? std::filesystem::path(stream) : toPath(path);
 }
 
 /// An export cannot be read back: written over the map or the database it would destroy what it was made from.
@@ -47,7 +48,7 @@ ExitCode refuse(const ExportOptions& options, const std::string& reason)
 }
 
 /// Writes into a pipe or a device, which has no old contents to keep.
-bool writeInto(const std::string& path, std::string_view text)
+bool writeInto(const std::filesystem::path& path, std::string_view text)
 {
     std::ofstream file(path, std::ios::binary);
     file << text;
@@ -57,10 +58,11 @@ bool writeInto(const std::string& path, std::string_view text)
 
 ExitCode writeTo(const ExportOptions& options, std::string_view text)
 {
+    const std::filesystem::path output = toPath(options.outputPath);
     std::error_code error;
-    const bool isFile = !std::filesystem::is_other(options.outputPath, error);
+    const bool isFile = !std::filesystem::is_other(output, error);
     errno = 0;
-    if (isFile ? writeFileSafely(options.outputPath, text) : writeInto(options.outputPath, text))
+    if (isFile ? writeFileSafely(output, text) : writeInto(output, text))
         return ExitCode::Success;
     const std::string reason = errno == 0 ? "" : ": " + std::generic_category().message(errno);
     return refuse(options, "cannot be written" + reason);

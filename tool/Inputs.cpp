@@ -7,6 +7,7 @@
 #include "text/Decode.h"
 #include "tool/Messages.h"
 #include "tool/Options.h"
+#include "tool/Paths.h"
 
 #include <cerrno>
 #include <exception>
@@ -42,14 +43,15 @@ try
         appendRest(*std::cin.rdbuf(), bytes);
         return bytes;
     }
+    const std::filesystem::path source = toPath(path);
     std::error_code error;
-    if (std::filesystem::is_directory(path, error))
+    if (std::filesystem::is_directory(source, error))
         return cannotRead(path, "it is a folder");
     std::filebuf file;
     // Pipes are welcome: scripts name them where a file would be.
-    if (file.open(path, std::ios::in | std::ios::binary) == nullptr)
+    if (file.open(source, std::ios::in | std::ios::binary) == nullptr)
         return cannotRead(path, std::generic_category().message(errno));
-    if (const auto size = std::filesystem::file_size(path, error); !error)
+    if (const auto size = std::filesystem::file_size(source, error); !error)
         bytes.reserve(size);
     appendRest(file, bytes);
     return bytes;

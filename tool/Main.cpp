@@ -1,5 +1,6 @@
 // tolvane-map: the editor's rules for scripts and reviewers.
 
+#include "tool/Arguments.h"
 #include "tool/Check.h"
 #include "tool/CommandLine.h"
 #include "tool/Diff.h"
@@ -27,7 +28,7 @@ int main(int argc, char** argv)
 try
 {
     passBytesThrough();
-    return static_cast<int>(std::visit(Run{}, readCommandLine(argc, argv)));
+    return static_cast<int>(std::visit(Run{}, readCommandLine(commandLineArguments(argc, argv))));
 }
 catch (const std::exception& error)
 {

@@ -9,5 +9,5 @@ bool outputIsTerminal()
 
 void passBytesThrough()
 {
-    // They do here.
+    // They do here, and a terminal takes them for what the user has chosen, which is UTF-8.
 }

@@ -22,14 +22,14 @@ struct Surroundings
     std::string outputFile{};                       ///< where standard output goes; empty for `ToolRun::output`
 };
 
-/// Runs a shell command to its end.
+/// Runs a shell command to its end; POSIX systems only.
 ToolRun runShell(const std::string& command, const Surroundings& surroundings = {});
 
-/// Runs tolvane-map with these arguments.
+/// Runs tolvane-map with these arguments, which are UTF-8. Variables are given on POSIX systems only.
 ToolRun runTool(const std::vector<std::string>& arguments, const Surroundings& surroundings = {});
 
-/// Runs tolvane-map with standard output on a terminal of its own.
+/// Runs tolvane-map with standard output on a terminal of its own; POSIX systems only.
 ToolRun runToolOnTerminal(const std::vector<std::string>& arguments, const Surroundings& surroundings = {});
 
-/// A word as the shell takes it whole.
+/// A word as a POSIX shell takes it whole.
 std::string shellWord(std::string_view word);
