@@ -1,6 +1,9 @@
 #pragma once
 
+class wxBitmapButton;
+class wxBitmapBundle;
 class wxComboBox;
+class wxSize;
 class wxString;
 class wxTextCtrl;
 class wxTreeCtrl;
@@ -29,6 +32,9 @@ void showFocusAtOnce(wxWindow& window);
 /// A tree whose chosen node is seen plainly on a dark background, whether it has the keyboard or not.
 /// @param style  the toolkit's styles of trees
 wxTreeCtrl* createTree(wxWindow* parent, long style);
+
+/// A flat button with nothing but a picture, on the ground of the header rows; the frame that shows the focus is light.
+wxBitmapButton* createPictureButton(wxWindow* parent, const wxBitmapBundle& picture, const wxSize& size);
 
 /// Makes the Tab key stop once at a combo box.
 void keepOneTabStop(wxComboBox& box);

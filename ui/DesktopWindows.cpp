@@ -5,7 +5,7 @@
 #include "ui/Desktop.h"
 #include "ui/Theme.h"
 
-#include <wx/button.h>
+#include <wx/bmpbuttn.h>
 #include <wx/dc.h>
 #include <wx/msw/wrapcctl.h>
 #include <wx/renderer.h>
@@ -121,6 +121,15 @@ void setAccessibleName(wxWindow&, const wxString&)
 wxTreeCtrl* createTree(wxWindow* parent, long style)
 {
     return new DarkTree(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
+}
+
+wxBitmapButton* createPictureButton(wxWindow* parent, const wxBitmapBundle& picture, const wxSize& size)
+{
+    auto* const button =
+        new wxBitmapButton(parent, wxID_ANY, picture, wxDefaultPosition, size, wxBORDER_NONE | wxBU_EXACTFIT);
+    button->SetBackgroundColour(theme::colour(theme::headerBackground));
+    button->SetForegroundColour(theme::colour(theme::contentText));
+    return button;
 }
 
 void keepFocusOnClick(wxWindow& control)

@@ -5,7 +5,6 @@
 
 #include "ui/Desktop.h"
 #include "ui/NamedImages.h"
-#include "ui/Theme.h"
 
 namespace
 {
@@ -18,12 +17,8 @@ constexpr int buttonSide = 32;
 wxBitmapButton* createImageButton(wxWindow* parent, const wxString& name, const wxString& tooltip, bool hovering)
 {
     // With a size of its own GTK is not asked how large the button would like to be, which takes it 0.2 ms each time.
-    auto* const button =
-        new wxBitmapButton(parent, wxID_ANY, namedImage(name), wxDefaultPosition,
-                           parent->FromDIP(wxSize(buttonSide, buttonSide)), wxBORDER_NONE | wxBU_EXACTFIT);
-    button->SetBackgroundColour(theme::colour(theme::headerBackground));
-    // The frame that shows the focus is drawn in it.
-    button->SetForegroundColour(theme::colour(theme::contentText));
+    wxBitmapButton* const button =
+        desktop::createPictureButton(parent, namedImage(name), parent->FromDIP(wxSize(buttonSide, buttonSide)));
     button->SetBitmapPressed(namedImage(name + "_pressed"));
     // A space button must not change under the mouse: its look says which space is shown.
     if (hovering)

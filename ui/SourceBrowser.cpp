@@ -63,9 +63,10 @@ void SourceBrowser::createGroupBoxes()
         groupBoxes.push_back(box);
         groupFilterSizer->Add(box, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxTOP, border);
 
-        // For the same reason. With its text from the start, since GTK is slow to tell the size of a label.
+        // For the same reason. With its text from the start and no second look at its size, which GTK is slow to tell.
         auto* const text =
-            new wxStaticText(groupFilters, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.description)));
+            new wxStaticText(groupFilters, wxID_ANY, wxControl::EscapeMnemonics(toolkitText(group.description)),
+                             wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE);
         panelControls::dress(*text, theme::groupDescription, theme::contentBackground);
         groupFilterSizer->Add(text, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT | wxRIGHT | wxTOP, border);
     }

@@ -5,8 +5,10 @@
 #include "tests/ui/UiTest.h"
 
 #include <gtest/gtest.h>
+#include <wx/bmpbuttn.h>
 #include <wx/checkbox.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 
 #include <algorithm>
 
@@ -49,4 +51,33 @@ TEST(DarkLook, FilterThatHasTheKeyboardHasAPlainEdge)
     editor.sourceFilter->SetFocus();
     EXPECT_TRUE(waitUntil([&] { return contrastOfEdge(*editor.sourceFilter) >= visible; }))
         << contrastOfEdge(*editor.sourceFilter);
+}
+
+TEST(DarkLook, PictureButtonsAreFlatOnTheirBars)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    for (const wxString& tooltip : {wxString("About"), wxString("Cut - ctrl x"), wxString("Show Status Registers")})
+    {
+        const wxBitmapButton& button = *editor.button(tooltip);
+        // The bar's last pixels before the button, and the button's first ones.
+        const wxRect edge(button.GetPosition() - wxPoint(2, 0), wxSize(4, button.GetSize().GetHeight()));
+        const auto contrast = [&] { return ScreenPicture(*button.GetParent(), edge).contrastToGround(); };
+        EXPECT_TRUE(waitUntil([&] { return contrast() < 1.01; })) << tooltip << ": " << contrast();
+    }
+}
+
+TEST(DarkLook, FoldingSignsOfTheTreeAreSeen)
+{
+    const PlantFiles files("");
+    const EditorWindow& editor = *openEditor(files.startup());
+    wxRect label;
+    ASSERT_TRUE(editor.sourceTree->GetBoundingRect(treeNode(editor, "Works"), label, true));
+    const wxRect sign(0, label.y, label.x, label.height);
+    const auto contrast = [&] { return ScreenPicture(*editor.sourceTree, sign).contrastToGround(); };
+    EXPECT_TRUE(waitUntil([&] { return contrast() >= visible; })) << contrast();
+    const ScreenPicture unfolded(*editor.sourceTree, sign);
+    editor.sourceTree->Collapse(treeNode(editor, "Works"));
+    EXPECT_TRUE(
+        waitUntil([&] { return ScreenPicture(*editor.sourceTree, sign).pixelsApartFrom(unfolded, visible) > 0; }));
 }

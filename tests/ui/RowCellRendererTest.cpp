@@ -93,6 +93,21 @@ int firstInkedLine(const wxImage& picture)
            static_cast<int>(line);
 }
 
+/// The smallest rectangle around everything in a picture that is not black.
+wxRect inked(const wxImage& picture)
+{
+    wxRect all;
+    for (int y = 0; y < picture.GetHeight(); ++y)
+    {
+        for (int x = 0; x < picture.GetWidth(); ++x)
+        {
+            if (picture.GetRed(x, y) + picture.GetGreen(x, y) + picture.GetBlue(x, y) != 0)
+                all.Union(wxRect(x, y, 1, 1));
+        }
+    }
+    return all;
+}
+
 } // namespace
 
 TEST(RowCellRenderer, SelectedCellAloneHasTheGroundOfTheSelection)
@@ -133,6 +148,18 @@ TEST(RowCellRenderer, TextStandsInTheMiddleOfItsRow)
     EXPECT_EQ(firstInkedLine(cell.pictureOf("PUMP")), usual + 10);
     cell.alignment = wxALIGN_LEFT;
     EXPECT_EQ(firstInkedLine(cell.pictureOf("PUMP")), usual + 10);
+}
+
+TEST(RowCellRenderer, CentredTextHasTheSameRoomOnBothSides)
+{
+    OneCell& cell = *new OneCell;
+    cell.alignment = wxALIGN_CENTRE;
+    for (const wxString& text : {wxString("HOLDING"), wxString("AVAWATA"), toolkitText("Füße")})
+    {
+        const wxRect ink = inked(cell.pictureOf(text));
+        // A letter stands not always in the middle of its own width.
+        EXPECT_NEAR(ink.GetLeft(), cellWidth - 1 - ink.GetRight(), 4) << text;
+    }
 }
 
 TEST(RowCellRenderer, CellShowsWholeTextsUpToItsWidthLessTheMargins)

@@ -1,5 +1,6 @@
 // Draws cells. A page of the grid is some hundred texts, and with GTK measuring one takes longer than drawing it. So
-// texts are measured only where it matters: when they are centred, or when they may not fit.
+// texts are measured only where it matters: where they are centred, once for all that read alike, and where they may
+// not fit.
 
 #include "ui/grid/RowCellRenderer.h"
 
@@ -48,10 +49,9 @@ void RowCellRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const w
 
 void RowCellRenderer::drawLine(wxDC& dc, const wxString& text, const wxRect& rect, int alignment)
 {
-    const bool centred = alignment == wxALIGN_CENTRE;
     wxString shown = text;
     wxSize size(0, plainHeight(dc));
-    if (centred || !surelyFits(dc, text, rect.width))
+    if (!surelyFits(dc, text, rect.width))
     {
         size = dc.GetTextExtent(text);
         if (size.GetWidth() > rect.width)
@@ -60,7 +60,7 @@ void RowCellRenderer::drawLine(wxDC& dc, const wxString& text, const wxRect& rec
             size = dc.GetTextExtent(shown);
         }
     }
-    const int x = centred ? (rect.width - size.GetWidth()) / 2 : 0;
+    const int x = alignment == wxALIGN_CENTRE ? (rect.width - widths.exactly(shown, dc)) / 2 : 0;
     // A letter may reach a little beyond its measured width, for example into the next column.
     const wxDCClipper clip(dc, rect);
     dc.DrawText(shown, rect.x + x, rect.y + (rect.height - size.GetHeight()) / 2);

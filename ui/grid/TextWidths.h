@@ -2,6 +2,7 @@
 
 #include <wx/font.h>
 
+#include <string>
 #include <unordered_map>
 
 class wxDC;
@@ -18,9 +19,14 @@ public:
     /// @param dc  with the font in which the text is to be drawn
     int about(const wxString& text, wxDC& dc);
 
+    /// Pixels of a text as it is drawn. Kept for the next time: for columns that say few things over and over.
+    int exactly(const wxString& text, wxDC& dc);
+
 private:
+    void followFont(const wxDC& dc);
     double widthOf(wchar_t character, wxDC& dc);
 
     wxFont font;
+    std::unordered_map<std::wstring, int> texts;
     std::unordered_map<wchar_t, double> widths;
 };
