@@ -20,30 +20,16 @@
 namespace
 {
 
-/// What the slots of an object have in common, without the byte-order flags and the texts.
-RegisterEntry slotValues(const DefinitionObject& object)
+/// Gives a slot what its object says, field by field: its byte-order flags and what validation found out stay.
+void overwriteSlot(RegisterEntry& slot, int address, const DefinitionObject& object)
 {
-    RegisterEntry values;
-    values.used = true;
-    values.locked = object.locked;
-    values.startAddress = static_cast<std::uint32_t>(object.start);
-    values.type = object.type;
-    values.registerCount = static_cast<std::uint32_t>(object.count);
-    values.write = object.write;
-    return values;
-}
-
-/// Gives a slot the values of its object, field by field: its byte-order flags and what validation found out stay.
-/// The texts follow later.
-void overwriteSlot(RegisterEntry& slot, int address, const RegisterEntry& values)
-{
-    slot.used = values.used;
-    slot.locked = values.locked;
-    slot.startAddress = values.startAddress;
+    slot.used = true;
+    slot.locked = object.locked;
+    slot.startAddress = static_cast<std::uint32_t>(object.start);
     slot.address = static_cast<std::uint32_t>(address);
-    slot.type = values.type;
-    slot.registerCount = values.registerCount;
-    slot.write = values.write;
+    slot.type = object.type;
+    slot.registerCount = static_cast<std::uint32_t>(object.count);
+    slot.write = object.write;
 }
 
 } // namespace
@@ -71,22 +57,13 @@ void DefinitionPlacer::placeAll()
     // From the last line to the first: a later line wins, so what it covers need not be looked at again.
     std::array<LeftOver, spaceCount> left;
     texts.reserve(2 * waiting.size());
-    written.reserve(slotsCovered());
+    runs.reserve(waiting.size());
     std::for_each(waiting.rbegin(), waiting.rend(),
                   [&](const DefinitionObject& object) { place(object, left[static_cast<std::size_t>(object.space)]); });
-    fillInTexts();
+    writeSlots();
     comeBack = comeBack && (!overlapping || std::all_of(waiting.begin(), waiting.end(),
                                                         [this](const auto& object) { return isOrderItsOwn(object); }));
     waiting.clear();
-}
-
-/// At least as many slots as the waiting objects get.
-std::size_t DefinitionPlacer::slotsCovered() const
-{
-    std::size_t covered = 0;
-    for (const DefinitionObject& object : waiting)
-        covered += static_cast<std::size_t>(std::max(object.endAddress() - object.firstAddress(), 0));
-    return std::min(covered, mostWaiting);
 }
 
 /// Whether the first slot has no flag of an object that lies below this one.
@@ -104,24 +81,22 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
 {
     const int first = object.firstAddress();
     const int end = object.endAddress();
-    RegisterSlots& slots = map.slots(object.space);
-    const RegisterEntry values = slotValues(object);
-    const std::size_t writtenBefore = written.size();
-    left.slots.visit(first, end,
-                     [&](int address)
-                     {
-                         overwriteSlot(slots[address], address, values);
-                         written.push_back({&slots[address], texts.size()});
-                     });
-    const auto slotsGot = static_cast<int>(written.size() - writtenBefore);
+    const std::size_t runsBefore = runs.size();
+    int slotsGot = 0;
+    left.slots.visitRuns(first, end,
+                         [&](int runFirst, int runEnd)
+                         {
+                             runs.push_back({&object, texts.size(), runFirst, runEnd});
+                             slotsGot += runEnd - runFirst;
+                         });
     // Slots are visited upwards, so the first one got is the head if that was to be had.
-    const bool hasHead =
-        RegisterSlots::contains(object.start) && slotsGot > 0 && written[writtenBefore].slot == &slots[object.start];
+    const bool hasHead = slotsGot > 0 && runs[runsBefore].first == object.start;
     comeBack = comeBack && hasHead;
     overlapping = overlapping || slotsGot < end - first;
     if (slotsGot > 0)
         texts.insert(texts.end(), {object.tagname, object.description});
 
+    RegisterSlots& slots = map.slots(object.space);
     // A flag stays set whichever line names it, so a slot takes each flag from any of the objects that cover it.
     if (object.SwapBytes)
         left.swapBytes.visit(first, end, [&](int address) { slots[address].SwapBytes = true; });
@@ -131,16 +106,23 @@ void DefinitionPlacer::place(const DefinitionObject& object, LeftOver& left)
         left.swapLongs.visit(first, end, [&](int address) { slots[address].SwapLongs = true; });
 }
 
-/// Texts are kept for the life of the program, so they are made only when it is known which objects have a slot.
-void DefinitionPlacer::fillInTexts()
+/// Texts are kept for the life of the program, so they are made only when it is known which objects have a slot. A slot
+/// is written once, with its texts: 262,144 slots are more than the processor's caches hold.
+void DefinitionPlacer::writeSlots()
 {
     std::vector<InternedText> handles(texts.size());
     InternedText::internAll(texts, handles);
-    for (const auto& [slot, text] : written)
+    for (const SlotRun& run : runs)
     {
-        slot->tagname = handles[text];
-        slot->description = handles[text + 1];
+        RegisterSlots& slots = map.slots(run.object->space);
+        for (int address = run.first; address < run.end; ++address)
+        {
+            RegisterEntry& slot = slots[address];
+            overwriteSlot(slot, address, *run.object);
+            slot.tagname = handles[run.text];
+            slot.description = handles[run.text + 1];
+        }
     }
     texts.clear();
-    written.clear();
+    runs.clear();
 }

@@ -50,17 +50,18 @@ private:
         UnvisitedAddresses swapLongs;
     };
 
-    /// A slot that has got all of its object but the texts.
-    struct WrittenSlot
+    /// Slots that follow each other and go to an object.
+    struct SlotRun
     {
-        RegisterEntry* slot;
+        const DefinitionObject* object;
         std::size_t text; ///< index of the tagname in `texts`; the description comes after it
+        int first;
+        int end; ///< the address after the last one
     };
 
-    std::size_t slotsCovered() const;
     void place(const DefinitionObject& object, LeftOver& left);
     bool isOrderItsOwn(const DefinitionObject& object) const;
-    void fillInTexts();
+    void writeSlots();
 
     RegisterMap& map;
     std::size_t taken = 0;
@@ -68,5 +69,5 @@ private:
     bool overlapping = false; ///< some object has not got all of its slots
     std::vector<DefinitionObject> waiting;
     std::vector<std::string_view> texts; ///< of the objects that have a slot
-    std::vector<WrittenSlot> written;
+    std::vector<SlotRun> runs;
 };

@@ -1,6 +1,8 @@
 #include "map/SlotRuns.h"
 
-#include <cstring>
+#include <array>
+#include <bit>
+#include <cstddef>
 
 // Eight slots in three runs:
 //
@@ -11,6 +13,44 @@
 //
 // A full space has as many runs as objects. Slots in which a command has left something begin a run of their own:
 // nothing about a slot is taken for granted.
+
+namespace
+{
+
+using Words = std::array<std::uint64_t, sizeof(RegisterEntry) / sizeof(std::uint64_t)>;
+
+/// The bits in which two slots differ: they have no padding, and equal texts have one handle.
+Words differenceOf(const RegisterEntry& left, const RegisterEntry& right)
+{
+    const auto leftWords = std::bit_cast<Words>(left);
+    auto difference = std::bit_cast<Words>(right);
+    for (std::size_t i = 0; i < difference.size(); ++i)
+        difference[i] ^= leftWords[i];
+    return difference;
+}
+
+/// The bits of both addresses.
+Words placeBits()
+{
+    RegisterEntry other;
+    other.startAddress = ~other.startAddress;
+    other.address = ~other.address;
+    return differenceOf({}, other);
+}
+
+/// Whether two slots differ by their place at most. Word by word and without a branch: the library's comparison of
+/// memory, for which the expected slot has to be written out first, takes 1 ms more for 262,144 slots.
+bool areSameButPlace(const RegisterEntry& left, const RegisterEntry& right)
+{
+    const Words places = placeBits();
+    const Words difference = differenceOf(left, right);
+    std::uint64_t others = 0;
+    for (std::size_t i = 0; i < difference.size(); ++i)
+        others |= difference[i] & ~places[i];
+    return others == 0;
+}
+
+} // namespace
 
 SlotRuns::SlotRuns(const RegisterSlots& slots)
 {
@@ -49,9 +89,6 @@ bool SlotRuns::extend(Run& run, const RegisterEntry& slot)
 
 bool SlotRuns::Run::has(const RegisterEntry& slot, std::uint32_t place) const
 {
-    RegisterEntry expected = first;
-    expected.address += place;
-    expected.startAddress += startStep * place;
-    // Slots have no padding and equal texts have one handle, so equal bytes are equal slots.
-    return std::memcmp(&slot, &expected, sizeof slot) == 0;
+    return slot.address == first.address + place && slot.startAddress == first.startAddress + startStep * place &&
+           areSameButPlace(slot, first);
 }

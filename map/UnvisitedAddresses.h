@@ -19,6 +19,18 @@ public:
     template <typename Visit>
     void visit(int first, int end, Visit visit)
     {
+        visitRuns(first, end,
+                  [&visit](int runFirst, int runEnd)
+                  {
+                      for (int address = runFirst; address < runEnd; ++address)
+                          visit(address);
+                  });
+    }
+
+    /// The same for the runs of such addresses: `visit` gets the first address of each and the one after its last.
+    template <typename Visit>
+    void visitRuns(int first, int end, Visit visit)
+    {
         if (first >= end)
             return;
         if (next.empty())
@@ -26,10 +38,14 @@ public:
             next.resize(registersPerSpace + 1);
             std::iota(next.begin(), next.end(), 0);
         }
-        for (int address = unvisitedFrom(first); address < end; address = unvisitedFrom(address + 1))
+        for (int address = unvisitedFrom(first); address < end;)
         {
-            nextFrom(address) = end;
-            visit(address);
+            const int runFirst = address;
+            while (address < end && nextFrom(address) == address)
+                nextFrom(address++) = end;
+            visit(runFirst, address);
+            if (address < end)
+                address = unvisitedFrom(address);
         }
     }
 

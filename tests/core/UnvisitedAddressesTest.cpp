@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -72,4 +74,22 @@ TEST(UnvisitedAddresses, AnyRangesTogetherVisitWhatTheyCover)
             open.erase(open.lower_bound(first), open.lower_bound(end));
         }
     }
+}
+
+TEST(UnvisitedAddresses, RunsAreWhatEarlierCallsHaveLeft)
+{
+    UnvisitedAddresses addresses;
+    const auto runs = [&addresses](int first, int end)
+    {
+        std::vector<std::pair<int, int>> result;
+        addresses.visitRuns(first, end, [&](int runFirst, int runEnd) { result.emplace_back(runFirst, runEnd); });
+        return result;
+    };
+    using Runs = std::vector<std::pair<int, int>>;
+    EXPECT_EQ(runs(10, 12), (Runs{{10, 12}}));
+    EXPECT_EQ(runs(14, 15), (Runs{{14, 15}}));
+    EXPECT_EQ(runs(8, 20), (Runs{{8, 10}, {12, 14}, {15, 20}}));
+    EXPECT_EQ(runs(0, registersPerSpace), (Runs{{0, 8}, {20, registersPerSpace}}));
+    EXPECT_EQ(runs(0, registersPerSpace), Runs{});
+    EXPECT_EQ(runs(5, 5), Runs{});
 }
