@@ -1,5 +1,6 @@
 #include "tool/Messages.h"
 
+#include "text/Lines.h"
 #include "tool/Style.h"
 
 #include <cerrno>
@@ -10,8 +11,9 @@
 void tell(std::string_view message)
 {
     std::string line = "tolvane-map: " + printable(message);
-    line += '\n';
+    line += nativeLineEnd;
     std::fwrite(line.data(), 1, line.size(), stderr);
+    std::fflush(stderr);
 }
 
 ExitCode put(std::string_view results, ExitCode done)

@@ -28,7 +28,8 @@ ToolRun runShell(const std::string& command, const Surroundings& surroundings = 
 /// Runs tolvane-map with these arguments, which are UTF-8. Variables are given on POSIX systems only.
 ToolRun runTool(const std::vector<std::string>& arguments, const Surroundings& surroundings = {});
 
-/// Runs tolvane-map with standard output on a terminal of its own; POSIX systems only.
+/// Runs tolvane-map with standard output on a terminal of its own; on Windows it is a screen of the console that the
+/// tests have, messages go there too, and nothing is put in.
 ToolRun runToolOnTerminal(const std::vector<std::string>& arguments, const Surroundings& surroundings = {});
 
 /// A word as a POSIX shell takes it whole.
