@@ -5,13 +5,17 @@
 #include "tests/core/MapBuilder.h"
 #include "tests/core/TagBuilder.h"
 #include "tests/core/TempFolder.h"
+#include "text/Lines.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
+/// How a line ends that is saved.
+inline const std::string lineEnd(nativeLineEnd);
+
 /// A map that is read from files of the test's own and saved to others.
-class DefinitionFileTest : public testing::Test
+class DefinitionFileFixture : public testing::Test
 {
 protected:
     /// Reads a file of these bytes into the map.

@@ -1,5 +1,4 @@
 #include "tests/core/DefinitionFileFixture.h"
-#include "text/Lines.h"
 
 namespace
 {
@@ -7,7 +6,7 @@ namespace
 using enum DefinitionLoad;
 
 /// Whether a save would write back all that a file says.
-class DefinitionLoadResult : public DefinitionFileTest
+class DefinitionLoadResult : public DefinitionFileFixture
 {
 protected:
     DefinitionLoad loadOf(std::string_view bytes)
@@ -22,8 +21,6 @@ protected:
         return loadOf("HOLDING,00001,NONE,INT16,A,about,1,UNLOCKED,OK\n" + line + "\n");
     }
 };
-
-const std::string lineEnd(nativeLineEnd);
 
 } // namespace
 

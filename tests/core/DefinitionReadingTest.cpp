@@ -1,13 +1,10 @@
 #include "map/Validation.h"
 #include "tests/core/DefinitionFileFixture.h"
-#include "text/Lines.h"
 
 namespace
 {
 
-using DefinitionReading = DefinitionFileTest;
-
-const std::string lineEnd(nativeLineEnd);
+using DefinitionReading = DefinitionFileFixture;
 
 } // namespace
 

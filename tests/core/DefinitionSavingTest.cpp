@@ -1,14 +1,12 @@
 #include "map/Validation.h"
 #include "tests/core/DefinitionFileFixture.h"
-#include "text/Lines.h"
 
 namespace
 {
 
-using DefinitionSaving = DefinitionFileTest;
+using DefinitionSaving = DefinitionFileFixture;
 
 constexpr auto holding = RegisterSpace::Holding;
-const std::string lineEnd(nativeLineEnd);
 
 } // namespace
 

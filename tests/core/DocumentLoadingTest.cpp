@@ -21,7 +21,8 @@ constexpr std::string_view lineOfSixFields = "HOLDING,00010,NONE,STRING,NAME,Mak
 class DocumentLoadingTest : public testing::Test
 {
 protected:
-    Document& open(std::string_view database, std::string_view definition)
+    /// The document, not loaded yet, of files with these texts.
+    Document& documentOf(std::string_view database, std::string_view definition)
     {
         folder.write("plant.json", database);
         folder.write("plant.csv", definition);
@@ -38,7 +39,7 @@ protected:
 
 TEST_F(DocumentLoadingTest, BothFilesAreThereWhenItHasFinished)
 {
-    DocumentLoading loading(open(wholeDatabase, lineOfSixFields));
+    DocumentLoading loading(documentOf(wholeDatabase, lineOfSixFields));
     EXPECT_EQ(loading.waitForDatabase(), LoadResult::Loaded);
     EXPECT_EQ(document.database.tags.count(), 1);
     loading.finish();
@@ -49,7 +50,7 @@ TEST_F(DocumentLoadingTest, BothFilesAreThereWhenItHasFinished)
 
 TEST_F(DocumentLoadingTest, ABadDatabaseIsToldBeforeTheDefinitionIsTouched)
 {
-    DocumentLoading loading(open("nonsense", lineOfSixFields));
+    DocumentLoading loading(documentOf("nonsense", lineOfSixFields));
     EXPECT_EQ(loading.waitForDatabase(), LoadResult::BadJson);
     // Whatever the user does before the message is confirmed still counts.
     EXPECT_FALSE(slot().used);
@@ -62,9 +63,9 @@ TEST_F(DocumentLoadingTest, ABadDatabaseIsToldBeforeTheDefinitionIsTouched)
 
 TEST_F(DocumentLoadingTest, ADatabaseWithoutTagsKeepsWhatStandsBeforeThem)
 {
-    DocumentLoading loading(open(R"({"database_groups": [{"flag": "ALM", "mask": 1}],
+    DocumentLoading loading(documentOf(R"({"database_groups": [{"flag": "ALM", "mask": 1}],
                                      "structure": [{"lable": "Works", "dbprefix": ""}]})",
-                                 lineOfSixFields));
+                                       lineOfSixFields));
     EXPECT_EQ(loading.waitForDatabase(), LoadResult::DatabaseMissing);
     EXPECT_EQ(document.database.groups.size(), 1U);
     EXPECT_EQ(document.database.structure.size(), 1U);
@@ -74,7 +75,7 @@ TEST_F(DocumentLoadingTest, ADatabaseWithoutTagsKeepsWhatStandsBeforeThem)
 
 TEST_F(DocumentLoadingTest, TwoBadFilesGiveAnEmptyDocument)
 {
-    DocumentLoading loading(open("", "nonsense"));
+    DocumentLoading loading(documentOf("", "nonsense"));
     EXPECT_EQ(loading.waitForDatabase(), LoadResult::BadJson);
     loading.finish();
     EXPECT_FALSE(slot().used);
@@ -105,7 +106,7 @@ TEST_F(DocumentLoadingTest, WhoeverDoesNotWaitIsWaitedFor)
     for (int address = 0; address < registersPerSpace; ++address)
         definition += "HOLDING," + std::to_string(address) + ",NONE,INT16,NAME,text,1\n";
     {
-        const DocumentLoading loading(open(wholeDatabase, definition));
+        const DocumentLoading loading(documentOf(wholeDatabase, definition));
     }
     // Nobody writes into it any more.
     EXPECT_EQ(document.map.slots(RegisterSpace::Holding)[registersPerSpace - 1].used, true);

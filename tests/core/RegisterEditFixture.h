@@ -12,7 +12,7 @@
 inline constexpr int highestCount = std::numeric_limits<std::int32_t>::max();
 
 /// A space with a few objects in it.
-class RegisterEditTest : public testing::Test
+class RegisterEditFixture : public testing::Test
 {
 protected:
     void place(int address, int count, std::string_view tagname, DataType type = DataType::String)

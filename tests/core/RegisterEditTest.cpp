@@ -8,7 +8,7 @@
 namespace
 {
 
-using RegisterEdit = RegisterEditTest;
+using RegisterEdit = RegisterEditFixture;
 
 EditedRegister edited(std::string_view tagname, std::string_view typeName, std::int32_t registerCount)
 {
@@ -311,28 +311,4 @@ TEST_F(RegisterEdit, AnyPlacementEqualsPlacingRegisterByRegister)
         applyEdit(map, head, edited("N", "STRING", count));
         ASSERT_TRUE(slots == *expected) << "round " << round << ": " << picture(first, 24);
     }
-}
-
-TEST_F(RegisterEdit, LengthThatIsNoNumberCountsAsOneForTheSpaceAndAsNoneOnConfirmation)
-{
-    for (const char* text : {"", "3x", "text", "4 "})
-    {
-        EXPECT_EQ(checkSpace(text, {1, 2}), SpaceCheck::Fits) << text;
-        EXPECT_EQ(checkSpace(text, {0, 1}), SpaceCheck::FitsByMoving) << text;
-        EXPECT_EQ(confirmEdit("TAG", text), EditConfirmation::NoLength) << text;
-    }
-}
-
-TEST_F(RegisterEdit, EmptyTagnameCancelsWhateverTheLength)
-{
-    EXPECT_EQ(confirmEdit("", "2"), EditConfirmation::Cancel);
-    EXPECT_EQ(confirmEdit("", "0"), EditConfirmation::Cancel);
-    EXPECT_EQ(confirmEdit(" ", "2"), EditConfirmation::Apply);
-}
-
-TEST_F(RegisterEdit, LengthBelowOneIsRefused)
-{
-    EXPECT_EQ(confirmEdit("TAG", "0"), EditConfirmation::NoLength);
-    EXPECT_EQ(confirmEdit("TAG", "-3"), EditConfirmation::NoLength);
-    EXPECT_EQ(confirmEdit("TAG", "1"), EditConfirmation::Apply);
 }
