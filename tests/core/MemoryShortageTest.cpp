@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <set>
 #include <string>
 
 namespace
@@ -37,18 +38,20 @@ TEST_F(MemoryShortage, DefinitionFileThatNeedsMoreMemoryThanThereIsGivesAnEmptyM
     // A line that says nothing; larger than what threads of earlier tests may have set aside for themselves.
     text.append(std::size_t{80} << 20U, 'x');
     const std::filesystem::path file = folder.write("map.csv", text);
-    // The bytes of the file alone are too many for the first limit. Where the others meet the reader depends on what
-    // earlier tests have left of the heap.
-    for (const std::size_t megabytes : {30U, 96U, 104U, 112U, 120U, 128U, 152U})
+    // The bytes of the file alone are too many for the first limit, and the last one is enough for everything.
+    std::set<bool> outcomes;
+    for (const std::size_t megabytes : {30U, 96U, 104U, 112U, 120U, 128U, 152U, 200U})
     {
         map.initialise();
         const MemoryLimit limit(megabytes << 20U);
         const bool loaded = isLoaded(loadDefinitionFile(file, map, tags));
+        outcomes.insert(loaded);
         EXPECT_TRUE(!loaded || megabytes > 30) << megabytes;
         EXPECT_EQ(map.isModified(), loaded) << megabytes;
         EXPECT_EQ(holding(0).used, loaded) << megabytes;
         EXPECT_EQ(holding(59'999).used, loaded) << megabytes;
     }
+    EXPECT_EQ(outcomes, (std::set<bool>{false, true})) << "the limits are too much alike";
 }
 
 TEST_F(MemoryShortage, SavingWhatNeedsMoreMemoryThanThereIsLeavesTheFile)
@@ -114,13 +117,16 @@ TEST_F(MemoryShortage, DocumentHoldsTheWholeMapOrNoneAndHasNothingToSave)
                     std::to_string(address % 2) + ",,1\n";
     }
     const std::filesystem::path file = folder.write("map.csv", text);
+    std::set<bool> outcomes;
     for (std::size_t megabytes = 10; megabytes <= 80; megabytes += 5)
     {
         Document document("", file, 0);
         const MemoryLimit limit(megabytes << 20U);
         document.loadDefinition();
         const bool used = document.map.slots(RegisterSpace::Coil)[0].used;
+        outcomes.insert(used);
         EXPECT_EQ(document.map.slots(RegisterSpace::Holding)[lastAddress].used, used) << megabytes;
         EXPECT_FALSE(document.hasUnsavedChanges()) << megabytes;
     }
+    EXPECT_EQ(outcomes, (std::set<bool>{false, true})) << "the limits are too much alike";
 }
