@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TempFolder.h"
+#include "CleanFolder.h"
 #include "files/SafeWrite.h"
 
 #include <gtest/gtest.h>
@@ -22,20 +22,10 @@ class SafeWriteFixture : public testing::Test
 protected:
     SafeWriteFixture() { std::filesystem::permissions(folder.path(), std::filesystem::perms::all); }
 
-    ~SafeWriteFixture() override
-    {
-        std::filesystem::permissions(folder.path(), std::filesystem::perms::all);
-        EXPECT_EQ(strays(), 0);
-    }
+    ~SafeWriteFixture() override { std::filesystem::permissions(folder.path(), std::filesystem::perms::all); }
 
     /// How many files of unfinished writing lie in the folder or below it.
-    int strays() const
-    {
-        int count = 0;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path()))
-            count += entry.path().filename().string().starts_with(".saving") ? 1 : 0;
-        return count;
-    }
+    int strays() const { return folder.strays(); }
 
     static std::string contents(const std::filesystem::path& path)
     {
@@ -89,5 +79,5 @@ protected:
         _exit(writeFileSafely(path, bytes) ? 0 : 1);
     }
 
-    const TempFolder folder;
+    const CleanFolder folder;
 };

@@ -33,17 +33,7 @@ protected:
     /// @param answer  "Yes" or "No"
     void leaveAnswering(const std::string& answer);
 
-    /// Puts a file into the test's folder.
-    std::filesystem::path write(const std::string& name, std::string_view text) const
-    {
-        return ownFolder.write(name, text);
-    }
-
-private:
-    TempFolder ownFolder;
-
-protected:
-    const std::filesystem::path folder = ownFolder.path();
+    const TempFolder folder;
     PrivateScreen screen;
 
 private:

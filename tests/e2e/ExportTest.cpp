@@ -70,6 +70,6 @@ TEST_F(Export, CancellingWritesNothing)
     program.clickButton(chooser, "Cancel");
     program.waitUntilClosed(chooserTitle);
     leaveWithoutQuestion();
-    for (const auto& file : fs::recursive_directory_iterator(folder))
+    for (const auto& file : fs::recursive_directory_iterator(folder.path()))
         EXPECT_NE(file.path().filename(), "data.csv");
 }

@@ -20,8 +20,8 @@ protected:
     {
         fs::create_directories(folder / "bin");
         const fs::path opener =
-            write("bin/xdg-open", "#!/bin/sh\nprintf %s \"$1\" > '" + opened.string() + ".new'\nmv '" +
-                                      opened.string() + ".new' '" + opened.string() + "'\n");
+            folder.write("bin/xdg-open", "#!/bin/sh\nprintf %s \"$1\" > '" + opened.string() + ".new'\nmv '" +
+                                             opened.string() + ".new' '" + opened.string() + "'\n");
         fs::permissions(opener, fs::perms::owner_all);
         setenv("PATH", ((folder / "bin").string() + ":" + std::getenv("PATH")).c_str(), 1);
         fs::create_directories(documents);
@@ -36,7 +36,7 @@ protected:
 TEST_F(Help, TheChosenDocumentIsOpenedByTheDesktop)
 {
     const fs::path document = documents / "Register maps in brief.pdf";
-    write(fs::relative(document, folder), "%PDF-1.4\n");
+    folder.write(fs::relative(document, folder.path()), "%PDF-1.4\n");
     ProgramUnderTest& program = openMap("");
     program.clickTool("Help");
     const Control chooser = program.waitForWindow(chooserTitle);
@@ -48,7 +48,7 @@ TEST_F(Help, TheChosenDocumentIsOpenedByTheDesktop)
 
 TEST_F(Help, CancellingOpensNothing)
 {
-    write(fs::relative(documents / "guide.pdf", folder), "%PDF-1.4\n");
+    folder.write(fs::relative(documents / "guide.pdf", folder.path()), "%PDF-1.4\n");
     ProgramUnderTest& program = openMap("");
     program.clickTool("Help");
     program.clickButton(program.waitForWindow(chooserTitle), "Cancel");

@@ -47,7 +47,7 @@ TEST_F(Leaving, WithChangesAndNoLeavesTheFileUntouched)
 TEST_F(Leaving, SavingGoesThroughASymbolicLinkAndKeepsIt)
 {
     fs::create_directories(folder / "elsewhere");
-    const fs::path target = write("elsewhere/real.csv", twoObjects);
+    const fs::path target = folder.write("elsewhere/real.csv", twoObjects);
     fs::create_symlink(target, map);
     deleteFirstRow(open(database, map));
     leaveAnswering("Yes");

@@ -17,7 +17,7 @@ protected:
     {
         const fs::path tags = folder / ("plant" + bytes + ".json");
         fs::copy_file(database, tags);
-        const fs::path file = write("map" + bytes + ".csv", twoObjects);
+        const fs::path file = folder.write("map" + bytes + ".csv", twoObjects);
         ProgramUnderTest& program = open(tags, file);
         EXPECT_EQ(program.tagGrid().filledRows(), 6);
         ASSERT_EQ(program.mapGrid().filledRows(), 2);
@@ -29,7 +29,7 @@ protected:
 
 private:
     /// The home folder, the small plant's own database, and the two files.
-    std::ptrdiff_t filesInFolder() const { return std::distance(fs::directory_iterator(folder), {}); }
+    std::ptrdiff_t filesInFolder() const { return std::distance(fs::directory_iterator(folder.path()), {}); }
 };
 
 } // namespace

@@ -5,30 +5,11 @@
 #include <linux/capability.h>
 #include <sys/prctl.h>
 
-namespace
-{
-
-constexpr const char* databaseText = R"({
-  "database_groups": [ { "mask": "1", "flag": "MEA", "type": "flag", "desc": "Measured values" } ],
-  "structure": [ { "lable": "Plant", "dbprefix": "" } ],
-  "database": [
-    { "Name": "PUMP_RUN", "Description": "Pump runs", "Type": "Integer", "Size": 1, "Elements": 2, "Groups": 0 },
-    { "Name": "PUMP2_RUN", "Description": "Pump 2 runs", "Type": "Integer", "Size": 1, "Elements": 2, "Groups": 0 },
-    { "Name": "PUMP_SPEED", "Description": "Speed", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 1 },
-    { "Name": "PUMP2_SPEED", "Description": "Speed 2", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 1 },
-    { "Name": "TANK_LEVEL", "Description": "Level", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 1 },
-    { "Name": "TANK_NAME", "Description": "Name", "Type": "String", "Size": 5, "Elements": 1, "Groups": 0 }
-  ]
-}
-)";
-
-} // namespace
-
-SmallPlant::SmallPlant() : database(write("plant.json", databaseText)), map(folder / "map.csv") {}
+SmallPlant::SmallPlant() : database(folder.write("plant.json", pumpDatabase)), map(folder / "map.csv") {}
 
 ProgramUnderTest& SmallPlant::openMap(std::string_view lines, const std::vector<std::string>& furtherArguments)
 {
-    write("map.csv", lines);
+    folder.write("map.csv", lines);
     return open(database, map, furtherArguments);
 }
 

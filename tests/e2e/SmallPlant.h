@@ -1,16 +1,9 @@
 #pragma once
 
 #include "tests/e2e/EndToEnd.h"
-
-/// A map of two objects of that plant, and what is left of it without the first.
-constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
-                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
-constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
+#include "tests/e2e/PumpMap.h"
 
 /// A test on a plant of a few tags whose map it lays out itself.
-///
-/// The database knows PUMP_RUN and PUMP2_RUN (Integer, may be written), PUMP_SPEED and PUMP2_SPEED (Numeric),
-/// TANK_LEVEL (Numeric) and TANK_NAME (String of 5 characters).
 class SmallPlant : public EndToEnd
 {
 protected:

@@ -52,7 +52,7 @@ TEST_F(Start, WithoutOptionsTheMissingDatabaseIsReportedAndTheWindowOpensOverAnE
 
 TEST_F(Start, AMapIsShownOnceTheMissingDatabaseHasBeenTold)
 {
-    const std::filesystem::path map = write("map.csv", "HOLDING,00010,NONE,INT16,NAME,text,1\n");
+    const std::filesystem::path map = folder.write("map.csv", "HOLDING,00010,NONE,INT16,NAME,text,1\n");
     ProgramUnderTest& program = start({"--modbus", map.string()});
     const Control message = program.waitForMessage(noDatabase);
     EXPECT_FALSE(program.showsMainWindow());
@@ -65,8 +65,8 @@ TEST_F(Start, AMapIsShownOnceTheMissingDatabaseHasBeenTold)
 
 TEST_F(Start, OfTwoBadFilesTheDatabaseAloneIsReported)
 {
-    const std::filesystem::path database = write("plant.json", "nonsense");
-    const std::filesystem::path map = write("map.csv", "nonsense");
+    const std::filesystem::path database = folder.write("plant.json", "nonsense");
+    const std::filesystem::path map = folder.write("map.csv", "nonsense");
     ProgramUnderTest& program = start({"--json", database.string(), "--modbus", map.string()});
     program.clickButton(program.waitForMessage("Bad JSON format\n"), "OK");
     program.waitForMainWindow();

@@ -1,18 +1,13 @@
 #include "tests/e2e/windows/ProgramWindows.h"
 
+#include "tests/e2e/Patience.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <chrono>
-#include <thread>
 
 namespace
 {
-
-constexpr std::chrono::seconds patience(30);
-
-/// Between two looks at a condition.
-constexpr std::chrono::milliseconds pause(10);
 
 /// A place inside the first row of a list, from its corner.
 constexpr POINT insideFirstRow{90, 12};
@@ -98,22 +93,11 @@ HWND focusIn(HWND window)
 
 } // namespace
 
-bool waitFor(const std::function<bool()>& condition)
+SuiteKey::SuiteKey(const std::wstring& path)
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (!condition())
-    {
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(pause);
-    }
-    return true;
-}
-
-void SuiteKey::install(const std::wstring& path)
-{
+    remove();
     HKEY key = nullptr;
-    ASSERT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, keyName, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr), 0);
+    EXPECT_EQ(::RegCreateKeyExW(HKEY_CURRENT_USER, keyName, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr), 0);
     const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
     EXPECT_EQ(::RegSetValueExW(key, L"Path", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size), 0);
     ::RegCloseKey(key);

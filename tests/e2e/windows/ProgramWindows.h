@@ -3,29 +3,24 @@
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 #include <windows.h>
 
-/// Waits until a condition holds.
-/// @return false when it still does not after a time that only a hanging program needs
-[[nodiscard]] bool waitFor(const std::function<bool()>& condition);
-
-/// The suite's key in the registry of the user, as a test wants it; what was there before is not kept, so these tests
-/// are for a registry of their own.
+/// The suite's key in the registry of the user, for as long as this is there; what was there before is not kept, so
+/// these tests are for a registry of their own.
 class SuiteKey
 {
 public:
-    SuiteKey() { remove(); }
+    /// Makes the key.
+    /// @param path  of its value "Path"
+    explicit SuiteKey(const std::wstring& path);
     ~SuiteKey() { remove(); }
     SuiteKey(const SuiteKey&) = delete;
     SuiteKey& operator=(const SuiteKey&) = delete;
 
-    /// Makes the key with its value "Path".
-    static void install(const std::wstring& path);
-
+    /// Takes the key away before its time.
     static void remove();
 };
 

@@ -3,6 +3,8 @@
 #include "files/ReadFile.h"
 #include "tests/core/OpenElsewhereWindows.h"
 #include "tests/core/TempFolder.h"
+#include "tests/core/WithAttributesWindows.h"
+#include "tests/e2e/PumpMap.h"
 #include "tests/e2e/windows/ProgramWindows.h"
 
 #include <gtest/gtest.h>
@@ -12,27 +14,13 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr const char* database = R"({
-  "database_groups": [ { "mask": "1", "flag": "MEA", "type": "flag", "desc": "Measured values" } ],
-  "structure": [ { "lable": "Plant", "dbprefix": "" } ],
-  "database": [
-    { "Name": "PUMP_RUN", "Description": "Pump runs", "Type": "Integer", "Size": 1, "Elements": 2, "Groups": 0 },
-    { "Name": "PUMP_SPEED", "Description": "Speed", "Type": "Numeric", "Size": 4, "Elements": 1, "Groups": 0 }
-  ]
-})";
-constexpr const char* twoObjects = "HOLDING,00010,NONE,INT16,PUMP_RUN,Pump runs,1,UNLOCKED,OK\n"
-                                   "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\n";
-constexpr const char* secondObject = "HOLDING,00011,NONE,FLOAT,PUMP_SPEED,Speed,2,UNLOCKED,OK\r\n";
-
 class EndToEnd : public testing::Test
 {
 protected:
-    EndToEnd() { SuiteKey::install(L"C:\\Suite\\"); }
-
     /// Opens a map beside its database, deletes its first object, leaves with the exit button and answers Yes.
     void deleteFirstAndSave(const fs::path& map) const
     {
-        const Program program({L"-d", folder.write("plant.json", database).wstring(), L"-m", map.wstring()});
+        const Program program({L"-d", folder.write("plant.json", pumpDatabase).wstring(), L"-m", map.wstring()});
         const HWND window = program.waitForWindow(L"Modbus Map Editor");
         ASSERT_NE(window, nullptr);
         program.deleteFirstRow(window);
@@ -47,7 +35,7 @@ protected:
     const TempFolder folder;
 
 private:
-    const SuiteKey key;
+    const SuiteKey key{L"C:\\Suite\\"};
 };
 
 } // namespace
@@ -73,7 +61,7 @@ TEST_F(EndToEnd, ExitButtonSavesWithTheLineEndsOfTheSystem)
 TEST_F(EndToEnd, UnchangedMapIsLeftWithoutAQuestionAndStaysAsItIs)
 {
     const fs::path map = folder.write("map.csv", twoObjects);
-    const Program program({L"-d", folder.write("plant.json", database).wstring(), L"-m", map.wstring()});
+    const Program program({L"-d", folder.write("plant.json", pumpDatabase).wstring(), L"-m", map.wstring()});
     Program::pressExit(program.waitForWindow(L"Modbus Map Editor"));
     EXPECT_EQ(program.waitForExit(), 0U);
     EXPECT_EQ(readFile(map), twoObjects);
@@ -102,10 +90,9 @@ TEST_F(EndToEnd, PathMayBeLongerThan260Characters)
 TEST_F(EndToEnd, WriteProtectedFileStaysAsItIs)
 {
     const fs::path map = folder.write("map.csv", twoObjects);
-    ASSERT_TRUE(::SetFileAttributesW(map.c_str(), FILE_ATTRIBUTE_READONLY));
+    const WithAttributes writeProtected(map, FILE_ATTRIBUTE_READONLY);
     deleteFirstAndSave(map);
     EXPECT_EQ(readFile(map), twoObjects);
-    ::SetFileAttributesW(map.c_str(), FILE_ATTRIBUTE_NORMAL); // or the folder could not be removed
 }
 
 TEST_F(EndToEnd, FileThatAnotherProgramReadsIsSaved)
