@@ -9,3 +9,4 @@ void addViewBenchmarks(ResultTable& table);
 void addFileBenchmarks(ResultTable& table);
 void addStartBenchmarks(ResultTable& table);
 void addToolBenchmarks(ResultTable& table);
+void addEnduranceBenchmarks(ResultTable& table);

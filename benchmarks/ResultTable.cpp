@@ -38,6 +38,12 @@ struct Judgement
         reached = reached && value < *limit;
     }
 
+    void judgeMemory(double megabytes, const std::optional<double>& limit, const std::string& what)
+    {
+        compare(what + shortNumber(megabytes) + " MB");
+        judge(megabytes, limit, " MB");
+    }
+
     const char* answer() const
     {
         if (limits.empty())
@@ -129,11 +135,9 @@ void ResultTable::printRow(const Row& row)
         judgement.judge(*time / yardstick, row.ratio, "x");
     }
     if (row.residentMb)
-    {
-        const double resident = counter(work, "rss_mb").value_or(0);
-        judgement.compare(shortNumber(resident) + " MB");
-        judgement.judge(resident, row.residentMb, " MB");
-    }
+        judgement.judgeMemory(counter(work, "rss_mb").value_or(0), row.residentMb, "");
+    if (row.grownMb)
+        judgement.judgeMemory(counter(work, "grown_mb").value_or(0), row.grownMb, "kept ");
     printLine(GetOutputStream(), {row.work, shortNumber(*time), orDash(judgement.comparison), orDash(judgement.limits),
                                   judgement.answer()});
 }

@@ -29,6 +29,7 @@ struct Row
     std::optional<double> milliseconds{}; ///< takes less than that
     std::optional<double> ratio{};        ///< takes less than so many times as long as the yardstick
     std::optional<double> residentMb{};   ///< the counter "rss_mb" shows less than that
+    std::optional<double> grownMb{};      ///< the counter "grown_mb" shows less than that
 };
 
 /// Registers benchmarks and prints a table of them, one line for each row: time, what it compares with, the limit, and

@@ -21,6 +21,7 @@ void runBenchmarks()
     addFileBenchmarks(table);
     addStartBenchmarks(table);
     addToolBenchmarks(table);
+    addEnduranceBenchmarks(table);
     benchmark::RunSpecifiedBenchmarks(&table);
 }
 
