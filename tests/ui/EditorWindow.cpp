@@ -1,6 +1,5 @@
 #include "tests/ui/EditorWindow.h"
 
-#include "files/ReadFile.h"
 #include "tests/ui/ControlsBelow.h"
 #include "tests/ui/MenuScript.h"
 #include "tests/ui/UiTest.h"
@@ -16,6 +15,9 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 #include <wx/uiaction.h>
+
+#include <fstream>
+#include <iterator>
 
 namespace
 {
@@ -130,7 +132,9 @@ DocumentFiles PlantFiles::startup(long swapFlags) const
 
 std::string PlantFiles::definition() const
 {
-    return readFile(folder / "plant.csv").value_or("no file");
+    // As text: the lines have the ends of the system.
+    std::ifstream file(folder / "plant.csv");
+    return file ? std::string(std::istreambuf_iterator<char>(file), {}) : "no file";
 }
 
 EditorWindow* openEditor(const DocumentFiles& files)

@@ -97,7 +97,7 @@ public:
     /// Both files, and the byte order to start with.
     DocumentFiles startup(long swapFlags = 0) const;
 
-    /// The bytes of the definition file.
+    /// The text of the definition file, its lines ended by LF on any system.
     std::string definition() const;
 
 private:

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <wx/bmpbuttn.h>
 #include <wx/filedlg.h>
+#include <wx/filename.h>
 
 #include <algorithm>
 
@@ -20,11 +21,8 @@ TEST(MainFrameHelp, AsksForADocumentOfTheSuite)
     ASSERT_TRUE(waitUntil([&] { return file.count() == 1; }));
     EXPECT_EQ(file.parent(), &editor);
     EXPECT_EQ(file.question().message, "Select a document");
-#ifdef __WINDOWS__
-    EXPECT_EQ(file.question().folder, "\\suite\\varnokconfigure\\DOCUMENTATION");
-#else
-    EXPECT_EQ(file.question().folder, "/suite/varnokconfigure/DOCUMENTATION");
-#endif
+    const wxString separator = wxFileName::GetPathSeparator();
+    EXPECT_EQ(file.question().folder, "/suite/varnokconfigure" + separator + "DOCUMENTATION");
     EXPECT_EQ(file.question().name, "*.pdf");
     EXPECT_EQ(file.question().wildcard, "*.pdf");
     EXPECT_EQ(file.question().style, wxFD_OPEN | wxFD_FILE_MUST_EXIST);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/grid.h>
+#include <wx/platinfo.h>
 
 namespace
 {
@@ -88,7 +89,7 @@ TEST(MainFrameMenu, RightClickGivesTheRowTheCursorToo)
 
 TEST(MainFrameMenu, MenuKeyOpensItAtTheCursorOnTheSelection)
 {
-    expectMenuOnTheSelection(WXK_MENU, 0);
+    expectMenuOnTheSelection(wxPlatformInfo::Get().GetPortId() == wxPORT_MSW ? WXK_WINDOWS_MENU : WXK_MENU, 0);
 }
 
 TEST(MainFrameMenu, ShiftF10OpensItAtTheCursorOnTheSelection)

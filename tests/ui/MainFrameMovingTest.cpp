@@ -362,19 +362,3 @@ TEST(MainFrameMoving, PurgeAfterNoChangesNothing)
     EXPECT_FALSE(editor.registerMap().isModified());
     EXPECT_EQ(editor.shownRows(), (Rows{"00010", "00020", "00030"}));
 }
-
-TEST(MainFrameMoving, EscapeOnThePurgeQuestionIsANo)
-{
-    const PlantFiles files(faultyDefinition);
-    EditorWindow& editor = *openEditor(files.startup());
-    const MessageBoxKey answer(editor, WXK_ESCAPE);
-    clickOn(*editor.button(purgeTooltip));
-    ASSERT_TRUE(waitUntil([&] { return answer.hasEnded(); }));
-    EXPECT_EQ(answer.message(),
-              "This will delete all registers that contain an error.\nAre you sure you want to continue?");
-    EXPECT_EQ(answer.caption(), "Confirmation");
-    EXPECT_EQ(answer.parent(), &editor);
-    ASSERT_TRUE(waitUntil([&] { return editor.IsActive(); }));
-    editor.nextView();
-    EXPECT_FALSE(editor.registerMap().isModified());
-}

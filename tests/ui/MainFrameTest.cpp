@@ -238,23 +238,6 @@ TEST(MainFrame, NoLeavesTheFileAsItWas)
     EXPECT_EQ(files.definition(), definition);
 }
 
-TEST(MainFrame, EscIsNoAnswerToTheSaveQuestionAndGoesBackToTheEditor)
-{
-    const PlantFiles files(definition);
-    EditorWindow* const editor = openEditor(files.startup());
-    editor->registerMap().eraseObject(RegisterSpace::Holding, 110);
-    const MessageBoxKey escape(*editor, WXK_ESCAPE);
-    clickOn(*editor->button("Exit without saving"));
-    EXPECT_TRUE(waitUntil([&] { return escape.hasEnded(); }));
-    EXPECT_EQ(escape.message(), "Save changes ?");
-    EXPECT_EQ(escape.caption(), "Confirmation");
-    // A closing window would be gone once what waits for the program is handled.
-    editor->focusMapGrid();
-    EXPECT_FALSE(editor->IsBeingDeleted());
-    EXPECT_TRUE(editor->registerMap().isModified());
-    EXPECT_EQ(files.definition(), definition);
-}
-
 TEST(MainFrame, ClosingTheBoxOfTheSaveQuestionGoesBackToTheEditor)
 {
     const PlantFiles files(definition);

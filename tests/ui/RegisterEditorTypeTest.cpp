@@ -97,9 +97,8 @@ TEST(RegisterEditorType, TypeIsChosenFromTheListWithTheKeyboard)
             EXPECT_TRUE(waitUntil([&] { return listOpen; }));
             pressKey(WXK_DOWN);
             pressKey(WXK_RETURN);
-            EXPECT_TRUE(waitUntil([&] { return editor.typeBox->GetValue() != "INT16"; }));
+            EXPECT_TRUE(waitUntil([&] { return editor.lengthField->GetValue() == "2"; }));
             EXPECT_EQ(editor.typeBox->GetValue(), "INT32");
             EXPECT_EQ(editor.seen(), "Order bytes words ? ");
-            EXPECT_EQ(editor.lengthField->GetValue(), "2");
         });
 }

@@ -1,5 +1,6 @@
 // What tolvane-map promises about a map, held against the window.
 
+#include "files/ReadFile.h"
 #include "review/MapReview.h"
 #include "source/TagDatabaseLoader.h"
 #include "tests/core/Chance.h"
@@ -64,7 +65,7 @@ std::string savedByTheWindow(const PlantFiles& files)
     clickOn(*editor->button("Exit without saving"));
     EXPECT_TRUE(waitUntilGone(editor));
     EXPECT_EQ(answer.count(), 1);
-    return files.definition();
+    return readFile(files.startup().definition).value_or("");
 }
 
 } // namespace

@@ -52,6 +52,16 @@ bool isPlaced(const wxWindow& control)
     return control.IsShownOnScreen() && !control.GetRect().IsEmpty();
 }
 
+/// Waits for an event and handles it, and what has been put off until there is none.
+/// Only on GTK does waiting alone do the latter; a loop that runs by itself does it on any system.
+void handleEvents(wxEventLoopBase& loop)
+{
+    loop.DispatchTimeout(eventWait);
+    wxTheApp->ProcessPendingEvents();
+    if (!loop.Pending())
+        loop.ProcessIdle();
+}
+
 bool isLaidOut(const wxWindow& window)
 {
     const wxWindowList& children = window.GetChildren();
@@ -84,7 +94,7 @@ bool waitUntil(const std::function<bool()>& condition)
     {
         if (std::chrono::steady_clock::now() > deadline)
             return false;
-        wxEventLoopBase::GetActive()->DispatchTimeout(eventWait);
+        handleEvents(*wxEventLoopBase::GetActive());
     }
     return true;
 }
