@@ -11,7 +11,6 @@
 #include <wx/renderer.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
-#include <wx/utils.h>
 #include <wx/weakref.h>
 
 #include <memory>
@@ -141,7 +140,8 @@ void keepFocusOnClick(wxWindow& control)
                  [&control, lent](wxFocusEvent& event)
                  {
                      event.Skip();
-                     if (!wxGetMouseState().LeftIsDown())
+                     // As of the press that is handled now: of a quick click the release has come in, too.
+                     if (::GetKeyState(VK_LBUTTON) >= 0)
                          return;
                      lent->owner = event.GetWindow();
                      // Not before the first press: what is bound last runs first, and the command that the button has
