@@ -29,12 +29,13 @@ constexpr int leastHeight = 480;
 
 } // namespace
 
-MainFrameBase::MainFrameBase()
-    // No system menu and no close box: the window is left with its exit button, which asks about saving.
-    : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-              wxCAPTION | wxRESIZE_BORDER | wxMINIMIZE_BOX | wxMAXIMIZE_BOX | wxTAB_TRAVERSAL),
-      timer(this)
+MainFrameBase::MainFrameBase() : timer(this)
 {
+    // No system menu and no close box: the window is left with its exit button, which asks about saving.
+    Create(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+           wxCAPTION | wxRESIZE_BORDER | wxMINIMIZE_BOX | wxMAXIMIZE_BOX | wxTAB_TRAVERSAL);
+    // The keyboard is for its controls, as with the panels.
+    m_container.DisableSelfFocus();
     SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
     // The size after the window is no longer maximised.
     SetSize(FromDIP(wxSize(1719, 824)));

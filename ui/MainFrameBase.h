@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/containr.h>
 #include <wx/frame.h>
 #include <wx/timer.h>
 
@@ -15,7 +16,9 @@ class wxStaticText;
 
 /// The main window's layout: creates the controls, lays them out and connects their events to handlers. The source side
 /// is a panel of its own. It holds no behaviour; the handlers of this class pass their events on.
-class MainFrameBase : public wxFrame
+///
+/// With a plain frame of toolkit 3.2 the Tab key does not get from one panel to the next on Windows.
+class MainFrameBase : public wxNavigationEnabled<wxFrame>
 {
 public:
     MainFrameBase();
