@@ -81,8 +81,10 @@ void MainFrame::showSpaceButtons()
         const wxString image = button.image;
         const bool shown = button.space == map.currentSpace;
         // The plain picture is exchanged, since a button of the desktop looks pressed only as long as it is.
-        spaceButtons[static_cast<std::size_t>(button.space)]->SetBitmapLabel(
-            namedImage(shown ? image + "_pressed" : image));
+        wxBitmapButton& control = *spaceButtons[static_cast<std::size_t>(button.space)];
+        control.SetBitmapLabel(namedImage(shown ? image + "_pressed" : image));
+        // Toolkit 3.2 drops it on Windows with the plain one.
+        control.SetBitmapPressed(namedImage(image + "_pressed"));
     }
 }
 
