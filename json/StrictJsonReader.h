@@ -15,7 +15,7 @@ public:
     /// @param strictText  UTF-8; has to last as long as the reader
     /// @param receiver    is told the pieces; of a text that proves bad, those before the mistake
     StrictJsonReader(const std::string& strictText, JsonEvents& receiver)
-        : place(strictText.data()), end(place + strictText.size()), events(receiver)
+        : begin(strictText.data()), end(begin + strictText.size()), events(receiver)
     {
     }
 
@@ -25,19 +25,21 @@ public:
     bool read();
 
 private:
-    bool takeNext();
-    bool takeKey();
-    bool takeValue();
-    void openBracket();
-    void closeBracket();
-    bool takeText();
-    bool takeString(std::string_view& content);
-    bool takeEscapedString(const char* begin, std::string_view& content);
-    bool takeNumber();
-    bool takeLiteral(std::string_view word);
-    void skipBlanks();
+    // Each of these gets the place of what it takes, and answers with the place behind it, or with null when the text
+    // is refused. So the place stays in a register, which saves 2 of 8 ms on 12 MB. Behind the last character stands a
+    // zero, which no piece goes on with.
+    const char* takeNext(const char* place);
+    const char* takeKey(const char* place);
+    const char* takeValue(const char* place);
+    const char* openBracket(const char* place);
+    const char* closeBracket(const char* place);
+    const char* takeString(const char* place, std::string_view& content);
+    const char* takeEscapedString(const char* place, const char* escape, std::string_view& content);
+    const char* takeText(const char* place);
+    const char* takeNumber(const char* place);
+    const char* takeLiteral(const char* place, std::string_view word);
 
-    const char* place; ///< the next character: behind the last one stands a zero, which no piece goes on with
+    const char* begin;
     const char* end;
     JsonEvents& events;
     std::string missingBrackets; ///< those that close what is open, the innermost last

@@ -1,10 +1,11 @@
 #include "text/Utf8.h"
 
+#include "text/SixteenCharacters.h"
+
 #include <utf8proc.h>
 
 #include <array>
-#include <cstdint>
-#include <cstring>
+#include <bit>
 
 // The library knows what UTF-8 is; what is added here is the run of ASCII, which nearly all texts consist of, and one
 // answer to bytes that are not UTF-8. Each of them is taken alone, so that reading goes on at the very next byte and no
@@ -12,16 +13,12 @@
 
 std::size_t asciiRunLength(std::string_view text, std::size_t start)
 {
-    // Eight bytes at a time: on a file of 13 MB this saves 3 ms against going byte by byte.
-    constexpr std::uint64_t highBits = 0x8080808080808080ULL;
     std::size_t end = start;
-    for (std::uint64_t bytes = 0; text.size() - end >= sizeof bytes; end += sizeof bytes)
+    for (; text.size() - end >= SixteenCharacters::count; end += SixteenCharacters::count)
     {
-        std::memcpy(&bytes, text.data() + end, sizeof bytes);
-        if ((bytes & highBits) != 0)
-            break;
+        if (const unsigned high = SixteenCharacters(text.data() + end).beyondAscii(); high != 0)
+            return end + static_cast<std::size_t>(std::countr_zero(high)) - start;
     }
-    // The rest: up to the first high byte of the eight where the run ends, or the last bytes of the text.
     while (end < text.size() && static_cast<unsigned char>(text[end]) < 0x80)
         ++end;
     return end - start;
