@@ -24,6 +24,8 @@ constexpr std::array<Member<TagGroup>, 4> members{{
 
 } // namespace
 
+GroupListReader::GroupListReader(std::vector<TagGroup>& target) : groups(target), search(members) {}
+
 bool GroupListReader::beginElement()
 {
     // An element that is not an object becomes a group too, one without texts and with mask 0.
@@ -31,9 +33,9 @@ bool GroupListReader::beginElement()
     return true;
 }
 
-void GroupListReader::member(std::string_view name, std::string_view content)
+void GroupListReader::memberValue(std::string_view content)
 {
-    takeMember(members, groups.back(), name, content);
+    search.take(groups.back(), content);
 }
 
 void GroupListReader::endElement()

@@ -10,14 +10,16 @@ class GroupListReader : public ListReader
 {
 public:
     /// @param target  receives the groups in the order of the file
-    explicit GroupListReader(std::vector<TagGroup>& target) : groups(target) {}
+    explicit GroupListReader(std::vector<TagGroup>& target);
 
     bool beginElement() override;
-    void member(std::string_view name, std::string_view content) override;
+    void memberName(std::string_view name) override { search.find(name); }
+    void memberValue(std::string_view content) override;
     void endElement() override;
 
 private:
     void clear() override;
 
     std::vector<TagGroup>& groups;
+    MemberSearch<TagGroup> search;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
 #include <string_view>
 
 /// One member that the objects of a list may have, and where its value goes.
@@ -10,16 +12,45 @@ struct Member
     void (*take)(Object& object, std::string_view content);
 };
 
-/// Puts a value where the table of members says; a member that is not in the table means nothing.
-template <class Object, class Members>
-void takeMember(const Members& members, Object& object, std::string_view name, std::string_view content)
+/// Finds members by their names in a table of them.
+///
+/// The objects of a file have their members in the same order again and again. The search begins behind the member that
+/// was found last, so once the order of the table is that of the file, each one is found at once.
+template <class Object>
+class MemberSearch
 {
-    for (const Member<Object>& member : members)
+public:
+    /// @param table  has to last as long as the search
+    explicit MemberSearch(std::span<const Member<Object>> table) : members(table) {}
+
+    /// Takes the name of the member whose value follows.
+    void find(std::string_view name)
     {
-        if (member.name == name)
-            return member.take(object, content);
+        found = nullptr;
+        for (std::size_t tried = 0; tried < members.size() && found == nullptr; ++tried)
+        {
+            const Member<Object>& member = members[next];
+            next = next + 1 == members.size() ? 0 : next + 1;
+            if (member.name == name)
+                found = &member;
+        }
     }
-}
+
+    /// True when the member of that name was found last.
+    bool hasFound(std::string_view name) const { return found != nullptr && found->name == name; }
+
+    /// Puts the value where the member says; that of a member that is not in the table means nothing.
+    void take(Object& object, std::string_view content) const
+    {
+        if (found != nullptr)
+            found->take(object, content);
+    }
+
+private:
+    std::span<const Member<Object>> members;
+    std::size_t next = 0; ///< where the search begins
+    const Member<Object>* found = nullptr;
+};
 
 /// Reads one of the lists that a tag database file has as members of its root, element by element.
 ///
@@ -50,12 +81,15 @@ public:
     /// @return false when it is to be passed over: neither its members nor its end will be told
     virtual bool beginElement() = 0;
 
-    /// A member of the element that began last and has not ended.
-    /// @param content  a text, or the decimal text of a number; empty for a value of any other kind
-    virtual void member(std::string_view name, std::string_view content) = 0;
+    /// The name of a member of the element that began last and has not ended; its value follows.
+    virtual void memberName(std::string_view name) = 0;
 
-    /// True when the member that was just told, an array, holds elements of the same kind as the list.
-    virtual bool holdsChildren(std::string_view /*memberName*/) const { return false; }
+    /// The value of the member that was named last.
+    /// @param content  a text, or the decimal text of a number; empty for a value of any other kind
+    virtual void memberValue(std::string_view content) = 0;
+
+    /// True when the value that was just told, an array, holds elements of the same kind as the list.
+    virtual bool holdsChildren() const { return false; }
 
     /// The element that began last and has not ended is complete.
     virtual void endElement() = 0;

@@ -23,12 +23,16 @@ constexpr std::size_t deepestLevel = 1000;
 constexpr std::string_view lable = "lable";
 constexpr std::string_view children = "structure";
 
-constexpr std::array<Member<StructureNode>, 2> members{{
+// The list of the children is no value of the node itself.
+constexpr std::array<Member<StructureNode>, 3> members{{
     {lable, [](StructureNode& node, std::string_view content) { node.label = content; }},
     {"dbprefix", [](StructureNode& node, std::string_view content) { node.dbPrefix = content; }},
+    {children, [](StructureNode&, std::string_view) {}},
 }};
 
 } // namespace
+
+StructureReader::StructureReader(std::vector<StructureNode>& target) : nodes(target), search(members) {}
 
 bool StructureReader::beginElement()
 {
@@ -42,23 +46,23 @@ bool StructureReader::beginElement()
     return true;
 }
 
-void StructureReader::member(std::string_view name, std::string_view content)
+void StructureReader::memberValue(std::string_view content)
 {
     const auto index = static_cast<std::size_t>(openNodes.back());
-    takeMember(members, nodes[index], name, content);
+    search.take(nodes[index], content);
     // Whether it is there counts, not what it is: null makes a root without text. Further down a node without the
     // member is not a failure either: it only has no text.
-    if (name == lable && index == 0)
+    if (index == 0 && search.hasFound(lable))
         rootHasLable = true;
     // Nodes stand in the order of the file, so whatever follows this one now came from an earlier list of children.
-    if (name == children)
+    if (search.hasFound(children))
         nodes.resize(index + 1);
 }
 
-bool StructureReader::holdsChildren(std::string_view memberName) const
+bool StructureReader::holdsChildren() const
 {
     // Too deep a list is passed over like any other member that means nothing, so its node stays, as a leaf.
-    return memberName == children && openNodes.size() <= deepestLevel;
+    return search.hasFound(children) && openNodes.size() <= deepestLevel;
 }
 
 void StructureReader::endElement()

@@ -11,20 +11,22 @@ class StructureReader : public ListReader
 {
 public:
     /// @param target  receives the nodes depth first, each before its children
-    explicit StructureReader(std::vector<StructureNode>& target) : nodes(target) {}
+    explicit StructureReader(std::vector<StructureNode>& target);
 
     /// True when the root has the member "lable", whatever its value is.
     bool hasLable() const { return rootHasLable; }
 
     bool beginElement() override;
-    void member(std::string_view name, std::string_view content) override;
-    bool holdsChildren(std::string_view memberName) const override;
+    void memberName(std::string_view name) override { search.find(name); }
+    void memberValue(std::string_view content) override;
+    bool holdsChildren() const override;
     void endElement() override;
 
 private:
     void clear() override;
 
     std::vector<StructureNode>& nodes;
+    MemberSearch<StructureNode> search;
     std::vector<int> openNodes; ///< indices from the root down to the node being read
     bool rootHasLable = false;
 };

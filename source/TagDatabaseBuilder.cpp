@@ -52,9 +52,14 @@ void TagDatabaseBuilder::endArray()
 
 void TagDatabaseBuilder::key(std::string_view name)
 {
-    // The name of the value that follows at once, so one name is enough whatever the depth.
-    if (ignoredDepth == 0)
-        memberName = name;
+    // Names stand in objects: in the root or in an element of a list. The value follows at once, so whoever reads it
+    // needs to remember one name only, whatever the depth.
+    if (ignoredDepth > 0)
+        return;
+    if (level == Root)
+        list = listNamed(name);
+    else
+        list->memberName(name);
 }
 
 void TagDatabaseBuilder::text(std::string_view content)
@@ -82,15 +87,21 @@ void TagDatabaseBuilder::value(Kind kind, std::string_view content)
         elementMember(kind, content);
 }
 
+/// @return the reader of the list, or null for a name that means nothing
+ListReader* TagDatabaseBuilder::listNamed(std::string_view name)
+{
+    if (name == "database_groups")
+        return &groups;
+    if (name == "structure")
+        return &structure;
+    if (name == "database")
+        return &tags;
+    return nullptr;
+}
+
 void TagDatabaseBuilder::rootMember(Kind kind)
 {
-    if (memberName == "database_groups")
-        list = &groups;
-    else if (memberName == "structure")
-        list = &structure;
-    else if (memberName == "database")
-        list = &tags;
-    else
+    if (list == nullptr)
         return ignore(kind);
     // Before the kind is looked at: a list that is there as a number or null counts as present, and as empty.
     list->begin();
@@ -111,8 +122,8 @@ void TagDatabaseBuilder::elementMember(Kind kind, std::string_view content)
 {
     // Told whatever its kind is, with no content when it has none: the last member of a name counts, so a later null
     // takes an earlier value back.
-    list->member(memberName, content);
-    if (kind == Kind::Array && list->holdsChildren(memberName))
+    list->memberValue(content);
+    if (kind == Kind::Array && list->holdsChildren())
         ++level;
     else
         ignore(kind);

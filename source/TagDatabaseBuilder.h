@@ -7,7 +7,6 @@
 #include "source/TagListReader.h"
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 /// Builds groups, structure tree and tags while the file is being read, so that no copy of the file is kept: one of
@@ -58,6 +57,7 @@ private:
     };
 
     void value(Kind kind, std::string_view content);
+    ListReader* listNamed(std::string_view name);
     void rootMember(Kind kind);
     void listElement(Kind kind);
     void elementMember(Kind kind, std::string_view content);
@@ -67,6 +67,5 @@ private:
 
     std::size_t level = Outside;
     std::size_t ignoredDepth = 0; ///< open objects and arrays, inside that level, that mean nothing here
-    std::string memberName;       ///< of the value that follows
-    ListReader* list = nullptr;   ///< reads the list that is open at level 2
+    ListReader* list = nullptr;   ///< reads the list that was named last in the root; null for any other member
 };

@@ -49,6 +49,8 @@ constexpr std::array<Member<UnfinishedTag>, 7> members{{
 
 } // namespace
 
+TagListReader::TagListReader(TagTable& target) : tags(target), search(members) {}
+
 bool TagListReader::beginElement()
 {
     // Cleared rather than made anew: the memory of the two texts serves all tags.
@@ -59,9 +61,9 @@ bool TagListReader::beginElement()
     return true;
 }
 
-void TagListReader::member(std::string_view name, std::string_view content)
+void TagListReader::memberValue(std::string_view content)
 {
-    takeMember(members, group[complete], name, content);
+    search.take(group[complete], content);
 }
 
 void TagListReader::endElement()
@@ -84,6 +86,8 @@ void TagListReader::finish()
         texts[2 * i + 1] = group[i].description;
     }
     InternedText::internAll(std::span(texts).first(2 * complete), handles);
+    for (std::size_t i = 0; i < complete; ++i)
+        tags.prepare(handles[2 * i]);
     for (std::size_t i = 0; i < complete; ++i)
     {
         group[i].record.name = handles[2 * i];

@@ -20,10 +20,11 @@ class TagListReader : public ListReader
 {
 public:
     /// @param target  receives the tags in the order of the file
-    explicit TagListReader(TagTable& target) : tags(target) {}
+    explicit TagListReader(TagTable& target);
 
     bool beginElement() override;
-    void member(std::string_view name, std::string_view content) override;
+    void memberName(std::string_view name) override { search.find(name); }
+    void memberValue(std::string_view content) override;
     void endElement() override;
 
     /// Fills the records of the last tags; to be called once the list is complete.
@@ -38,6 +39,7 @@ private:
     static constexpr std::size_t groupSize = 8;
 
     TagTable& tags;
+    MemberSearch<UnfinishedTag> search;
     std::array<UnfinishedTag, groupSize> group; ///< complete tags, then the one that is being read
     std::size_t complete = 0;
 };

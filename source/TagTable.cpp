@@ -18,8 +18,8 @@ void TagTable::clear()
     {
         --filled;
         TagRecord& record = records[static_cast<std::size_t>(filled)];
-        std::int32_t& slot = firstByName[slotOf(record.name)];
-        if (slot == filled)
+        std::int32_t& slot = firstByName[slotOf(record.name, hashOf(record.name))];
+        if (slot != freeSlot && indexIn(slot) == filled)
             slot = freeSlot;
         record = {};
     }
@@ -35,9 +35,10 @@ bool TagTable::append(const TagRecord& record)
         firstByName.assign(slotCount, freeSlot);
     }
     // Among equal names the first one counts, so a name that is there keeps its record.
-    std::int32_t& slot = firstByName[slotOf(record.name)];
+    const std::size_t hash = hashOf(record.name);
+    std::int32_t& slot = firstByName[slotOf(record.name, hash)];
     if (slot == freeSlot)
-        slot = filled;
+        slot = entryOf(hash, filled);
     records[static_cast<std::size_t>(filled)] = record;
     ++filled;
     return true;

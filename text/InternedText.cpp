@@ -1,5 +1,6 @@
 #include "text/InternedText.h"
 
+#include "memory/FetchAhead.h"
 #include "memory/LargePages.h"
 
 #include <algorithm>
@@ -41,13 +42,6 @@ std::string_view contentOf(const void* entry)
 std::string_view storable(std::string_view utf8)
 {
     return utf8.substr(0, std::numeric_limits<std::uint32_t>::max());
-}
-
-void fetchAhead([[maybe_unused]] const void* memory)
-{
-#ifdef __GNUC__
-    __builtin_prefetch(memory);
-#endif
 }
 
 /// Open-addressing table over texts that lie in large blocks: one allocation serves thousands of texts.
