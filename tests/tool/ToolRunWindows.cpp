@@ -1,12 +1,12 @@
 #include "files/ReadFile.h"
 #include "tests/core/TempFolder.h"
+#include "tests/tool/ToolRun.h"
+
+#include <array>
 
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-#include "tests/tool/ToolRun.h"
-
-#include <array>
 #include <windows.h>
 
 namespace
