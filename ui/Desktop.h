@@ -1,7 +1,10 @@
 #pragma once
 
-class wxBitmapButton;
+#include <wx/defs.h>
+
 class wxBitmapBundle;
+class wxBitmapButton;
+class wxButton;
 class wxComboBox;
 class wxSize;
 class wxString;
@@ -32,6 +35,10 @@ void showFocusAtOnce(wxWindow& window);
 /// A tree whose chosen node is seen plainly on a dark background, whether it has the keyboard or not.
 /// @param style  the toolkit's styles of trees
 wxTreeCtrl* createTree(wxWindow* parent, long style);
+
+/// A button without a border that shows plainly when it has the keyboard, in whatever colours it gets.
+/// @param style  the toolkit's styles of buttons
+wxButton* createButton(wxWindow* parent, wxWindowID id, const wxString& text, long style);
 
 /// A flat button with nothing but a picture, on the ground of the header rows; the frame that shows the focus is light.
 wxBitmapButton* createPictureButton(wxWindow* parent, const wxBitmapBundle& picture, const wxSize& size);

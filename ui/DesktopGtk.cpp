@@ -133,6 +133,11 @@ void setAccessibleName(wxWindow& control, const wxString& name)
     atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
 }
 
+wxButton* createButton(wxWindow* parent, wxWindowID id, const wxString& text, long style)
+{
+    return new wxButton(parent, id, text, wxDefaultPosition, wxDefaultSize, style);
+}
+
 void keepFocusOnClick(wxWindow& control)
 {
     // A click on a button would take the keyboard from the grid, and the next key would press the button again.

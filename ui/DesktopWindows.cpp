@@ -2,12 +2,14 @@
 // differently from what the dark windows need.
 
 #include "ui/DarkModeWindows.h"
+#include "ui/DarkTreeWindows.h"
 #include "ui/Desktop.h"
+#include "ui/FocusRingWindows.h"
 #include "ui/Theme.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/dc.h>
-#include <wx/msw/wrapcctl.h>
+#include <wx/msw/wrapwin.h>
 #include <wx/renderer.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
@@ -34,36 +36,6 @@ public:
         dc.SetBrush(wxBrush(theme::colour(theme::headerBackground)));
         dc.DrawRectangle(orientation == wxVERTICAL ? wxRect(position, 0, width, size.GetHeight())
                                                    : wxRect(0, position, size.GetWidth(), width));
-    }
-};
-
-/// A tree whose chosen node can be read while the keyboard is elsewhere: the system then lays light grey under it.
-class DarkTree : public wxTreeCtrl
-{
-public:
-    using wxTreeCtrl::wxTreeCtrl;
-
-protected:
-    bool MSWOnNotify(int control, WXLPARAM parameter, WXLPARAM* result) override
-    {
-        const bool handled = wxTreeCtrl::MSWOnNotify(control, parameter, result);
-        auto* const drawn = reinterpret_cast<NMTVCUSTOMDRAW*>(parameter);
-        if (drawn->nmcd.hdr.code != static_cast<UINT>(NM_CUSTOMDRAW))
-            return handled;
-        if (drawn->nmcd.dwDrawStage == CDDS_PREPAINT)
-            *result |= CDRF_NOTIFYITEMDRAW;
-        else if (drawn->nmcd.dwDrawStage == CDDS_ITEMPREPAINT && (drawn->nmcd.uItemState & CDIS_SELECTED) != 0)
-            showChosen(*drawn);
-        return true;
-    }
-
-private:
-    void showChosen(NMTVCUSTOMDRAW& drawn) const
-    {
-        const Rgb ground = HasFocus() ? theme::selection : theme::entryBackground;
-        const Rgb text = HasFocus() ? theme::selectionText : theme::entryText;
-        drawn.clrTextBk = RGB(ground.red, ground.green, ground.blue);
-        drawn.clrText = RGB(text.red, text.green, text.blue);
     }
 };
 
@@ -119,13 +91,18 @@ void setAccessibleName(wxWindow&, const wxString&)
 
 wxTreeCtrl* createTree(wxWindow* parent, long style)
 {
-    return new DarkTree(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
+    return new DarkTree(parent, style);
+}
+
+wxButton* createButton(wxWindow* parent, wxWindowID id, const wxString& text, long style)
+{
+    return new Ringed<wxButton>(parent, id, text, wxDefaultPosition, wxDefaultSize, style);
 }
 
 wxBitmapButton* createPictureButton(wxWindow* parent, const wxBitmapBundle& picture, const wxSize& size)
 {
     auto* const button =
-        new wxBitmapButton(parent, wxID_ANY, picture, wxDefaultPosition, size, wxBORDER_NONE | wxBU_EXACTFIT);
+        new Ringed<wxBitmapButton>(parent, wxID_ANY, picture, wxDefaultPosition, size, wxBORDER_NONE | wxBU_EXACTFIT);
     button->SetBackgroundColour(theme::colour(theme::headerBackground));
     button->SetForegroundColour(theme::colour(theme::contentText));
     return button;

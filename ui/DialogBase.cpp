@@ -100,7 +100,7 @@ wxCheckBox* DialogBase::createBareCheckBox(const wxString& name)
 wxButton* DialogBase::createButton(wxWindowID id, const wxString& text)
 {
     // Created without its text, which decides about the size and so has to come after the font.
-    auto* const button = new wxButton(this, id, wxString(), wxDefaultPosition, wxDefaultSize, wxBORDER_NONE);
+    auto* const button = desktop::createButton(this, id, wxString(), wxBORDER_NONE);
     button->SetFont(theme::regular(9));
     button->SetForegroundColour(theme::colour(theme::buttonText));
     button->SetBackgroundColour(theme::buttonBackground());
@@ -123,7 +123,7 @@ wxButton* DialogBase::createHelpButton()
 {
     auto* const button =
         // It stands beside a text and is no larger than that.
-        new wxButton(this, wxID_ANY, " ? ", wxDefaultPosition, wxDefaultSize, wxBORDER_NONE | wxBU_EXACTFIT);
+        desktop::createButton(this, wxID_ANY, " ? ", wxBORDER_NONE | wxBU_EXACTFIT);
     button->SetFont(theme::helpButton());
     button->SetForegroundColour(theme::colour(theme::helpButtonText));
     button->SetBackgroundColour(theme::colour(theme::helpButtonBackground));

@@ -166,7 +166,10 @@ TEST(SourceTree, ClickOnTheChosenNodeLeavesTheListAndItsSelection)
 {
     const PlantFiles files("");
     EditorWindow& editor = openWithTankChosen(files);
+    clickOn(*editor.sourceFilter); // or the next click would be the second half of a double click
+    EXPECT_TRUE(waitUntil([&] { return editor.sourceFilter->HasFocus(); }));
     clickNode(editor, "Tank");
+    EXPECT_TRUE(waitUntil([&] { return editor.sourceTree->HasFocus(); }));
     EXPECT_EQ(copiedTags(editor), Names({"TANK_HIGH"}));
 }
 
