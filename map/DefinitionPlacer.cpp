@@ -41,7 +41,7 @@ DefinitionPlacer::DefinitionPlacer(RegisterMap& target, std::size_t expected) : 
 
 LineMeaning DefinitionPlacer::parseDefinitionLine(const DefinitionFields& fields)
 {
-    const LineMeaning meaning = lineMeaning(fields);
+    LineMeaning meaning = lineMeaning(fields);
     if (const auto* const object = std::get_if<DefinitionObject>(&meaning))
     {
         waiting.push_back(*object);
