@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    const TagTable tags = tableOf({"PUMP_RUN", "TANK_LEVEL", "PUMP_SPEED", "PUMP_HOURS"});
+    const TagTable tags = tableOf({"PUMP_HOURS", "TANK_LEVEL", "PUMP_RUN", "PUMP_SPEED"});
 };
 
 } // namespace
@@ -81,10 +81,10 @@ TEST(RegisterEditorTagname, ArrowKeysGoThroughTheOfferedNames)
         [&]
         {
             editor.typeBeginning("pu");
+            editor.pressAndExpect(WXK_DOWN, "PUMP_HOURS");
             editor.pressAndExpect(WXK_DOWN, "PUMP_RUN");
             editor.pressAndExpect(WXK_DOWN, "PUMP_SPEED");
-            editor.pressAndExpect(WXK_DOWN, "PUMP_HOURS");
-            editor.pressAndExpect(WXK_UP, "PUMP_SPEED");
+            editor.pressAndExpect(WXK_UP, "PUMP_RUN");
             EXPECT_TRUE(listIsOpen());
             pressKey(WXK_ESCAPE);
             EXPECT_TRUE(waitUntil([] { return !listIsOpen(); }));
@@ -112,11 +112,11 @@ TEST(RegisterEditorTagname, EnterConfirmsTheNameThatTheArrowKeysHaveReached)
                        {
                            editor.typeBeginning("pu");
                            pressKey(WXK_DOWN);
-                           editor.pressAndExpect(WXK_DOWN, "PUMP_SPEED");
+                           editor.pressAndExpect(WXK_DOWN, "PUMP_RUN");
                            pressKey(WXK_RETURN);
                        }),
               wxID_OK);
-    EXPECT_EQ(editor.tagname(), "PUMP_SPEED");
+    EXPECT_EQ(editor.tagname(), "PUMP_RUN");
 }
 
 TEST(RegisterEditorTagname, EscClosesTheListFirstAndBringsBackWhatWasTyped)
@@ -126,7 +126,7 @@ TEST(RegisterEditorTagname, EscClosesTheListFirstAndBringsBackWhatWasTyped)
         [&]
         {
             editor.typeBeginning("pu");
-            editor.pressAndExpect(WXK_DOWN, "PUMP_RUN");
+            editor.pressAndExpect(WXK_DOWN, "PUMP_HOURS");
             editor.pressAndExpect(WXK_ESCAPE, "pu");
             EXPECT_FALSE(listIsOpen());
             EXPECT_TRUE(editor.IsModal());
