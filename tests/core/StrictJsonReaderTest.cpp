@@ -129,10 +129,10 @@ TEST(StrictJsonReader, NumbersBeyondAFloatingPointNumberAreTaken)
     EXPECT_EQ(eventsOf("[" + std::string(500, '9') + "]"), "['" + std::string(500, '9') + "']");
 }
 
-// Strings are gone through eight characters at a time.
+// Strings are gone through sixteen characters at a time.
 TEST(StrictJsonReader, StringEndsAtItsQuoteWhereverThatStands)
 {
-    for (std::size_t length = 0; length < 30; ++length)
+    for (std::size_t length = 0; length < 40; ++length)
     {
         for (const std::string letter : {"x", "\xFF", "\x7F", "!", "#", "]"})
         {
