@@ -76,10 +76,12 @@ void clickAt(POINT place)
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
-void clickOn(HWND window)
+/// Tells the window around a button that it was pressed, as the button does. A click may be lost while the window
+/// manager below Wine moves what has just been shown to its place.
+void pressButton(HWND button)
 {
-    const RECT place = placeOf(window);
-    clickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    const WPARAM press = MAKEWPARAM(::GetDlgCtrlID(button), BN_CLICKED);
+    ::PostMessageW(::GetParent(button), WM_COMMAND, press, reinterpret_cast<LPARAM>(button));
 }
 
 /// The control of a program's window that has the keyboard.
@@ -166,7 +168,7 @@ void Program::answer(HWND box, const std::wstring& button)
     for (const HWND part : windowsBelow(box))
     {
         if (kindOf(part) == L"Button" && ::IsWindowVisible(part) && textOf(part) == button)
-            return clickOn(part);
+            return pressButton(part);
     }
     ADD_FAILURE() << "no such button";
 }
@@ -200,7 +202,7 @@ void Program::pressExit(HWND mainWindow)
             last = part;
     }
     ASSERT_NE(last, nullptr);
-    clickOn(last);
+    pressButton(last);
 }
 
 std::optional<DWORD> Program::waitForExit() const
