@@ -65,14 +65,26 @@ void press(WORD key)
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+/// A coordinate in the unit of the mouse, which divides the screen into 65,536 parts.
+LONG partOfScreen(LONG pixel, int metric)
+{
+    constexpr LONG parts = 65536;
+    return (pixel * parts + parts / 2) / ::GetSystemMetrics(metric);
+}
+
+/// Clicks in one go: between a movement and a press the pointer could be taken back to where it was before.
 void clickAt(POINT place)
 {
-    ::SetCursorPos(place.x, place.y);
-    std::array<INPUT, 2> inputs{};
+    std::array<INPUT, 3> inputs{};
     for (INPUT& input : inputs)
+    {
         input.type = INPUT_MOUSE;
-    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+        input.mi.dx = partOfScreen(place.x, SM_CXSCREEN);
+        input.mi.dy = partOfScreen(place.y, SM_CYSCREEN);
+        input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    }
+    inputs[1].mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
+    inputs[2].mi.dwFlags |= MOUSEEVENTF_LEFTUP;
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
@@ -177,14 +189,16 @@ void Program::deleteFirstRow(HWND mainWindow) const
 {
     // The map is in the right half. It gets the keyboard once the window is laid out, which is after it is shown.
     const RECT window = placeOf(mainWindow);
-    RECT list{};
+    POINT row{};
     ASSERT_TRUE(waitFor(
         [&]
         {
-            list = placeOf(focusIn(mainWindow));
-            return list.left >= (window.left + window.right) / 2;
+            const HWND list = focusIn(mainWindow);
+            const RECT place = placeOf(list);
+            row = {place.left + insideFirstRow.x, place.top + insideFirstRow.y};
+            return place.left >= (window.left + window.right) / 2 && ::WindowFromPoint(row) == list;
         }));
-    clickAt({list.left + insideFirstRow.x, list.top + insideFirstRow.y});
+    clickAt(row);
     press(VK_DELETE);
 }
 
