@@ -13,9 +13,10 @@ std::vector<Control*> controlsBelow(const wxWindow& parent)
     std::vector<Control*> found;
     for (wxWindow* const child : parent.GetChildren())
     {
-        if (auto* const control = dynamic_cast<Control*>(child))
+        wxWindow& window = *child;
+        if (auto* const control = dynamic_cast<Control*>(&window))
             found.push_back(control);
-        const std::vector<Control*> further = controlsBelow<Control>(*child);
+        const std::vector<Control*> further = controlsBelow<Control>(window);
         found.insert(found.end(), further.begin(), further.end());
     }
     return found;
