@@ -216,7 +216,9 @@ void Program::pressExit(HWND mainWindow)
             last = part;
     }
     ASSERT_NE(last, nullptr);
-    pressButton(last);
+    // With the mouse: what is posted would be handled before the keys that were pressed earlier.
+    const RECT place = placeOf(last);
+    clickAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
 }
 
 std::optional<DWORD> Program::waitForExit() const
